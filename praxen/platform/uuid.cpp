@@ -1,0 +1,64 @@
+// The text form of identifiers.
+
+#include "praxen/platform/uuid.h"
+
+namespace praxen {
+
+namespace {
+
+using uuid_internal::Bytes;
+
+constexpr std::size_t kTextLength = 36;
+
+bool HyphenBeforeByte(std::size_t index) {
+  return index == 4 || index == 6 || index == 8 || index == 10;
+}
+
+template <class Char>
+int HexDigitValue(Char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+  return -1;
+}
+
+template <class Char>
+std::basic_string_view<Char> WithoutBraces(std::basic_string_view<Char> text) {
+  const bool braces = text.size() == kTextLength + 2 && text.front() == '{' && text.back() == '}';
+  return braces ? text.substr(1, kTextLength) : text;
+}
+
+template <class Char>
+std::optional<GUID> Parse(std::basic_string_view<Char> text) {
+  text = WithoutBraces(text);
+  if (text.size() != kTextLength) return std::nullopt;
+  Bytes bytes = {};
+  for (std::size_t i = 0, at = 0; i < bytes.size(); ++i, at += 2) {
+    if (HyphenBeforeByte(i) && text[at++] != '-') return std::nullopt;
+    const int high = HexDigitValue(text[at]);
+    const int low = HexDigitValue(text[at + 1]);
+    if (high < 0 || low < 0) return std::nullopt;
+    bytes[i] = static_cast<std::uint8_t>(high * 16 + low);
+  }
+  return uuid_internal::FromBytes(bytes);
+}
+
+}  // namespace
+
+std::string UuidToText(const GUID& guid) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  const Bytes bytes = uuid_internal::ToBytes(guid);
+  std::string text = "{";
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    if (HyphenBeforeByte(i)) text += '-';
+    text += kDigits[bytes[i] >> 4];
+    text += kDigits[bytes[i] & 0x0F];
+  }
+  return text + '}';
+}
+
+std::optional<GUID> TextToUuid(std::string_view text) { return Parse(text); }
+
+std::optional<GUID> TextToUuid(std::u16string_view text) { return Parse(text); }
+
+}  // namespace praxen
