@@ -1,0 +1,50 @@
+// Numbers as the exchange format writes and reads them.
+#ifndef PRAXEN_CORE_NUMBERS_H_
+#define PRAXEN_CORE_NUMBERS_H_
+
+#include <cstdint>
+#include <string_view>
+
+#include "praxen/core/text.h"
+
+namespace praxen {
+
+/// The characters of a written number; long enough for every 32-bit integer and every double.
+class NumberText {
+ public:
+  /// In decimal, with "-" before a negative number.
+  explicit NumberText(int32_t number);
+  /// In the classic form: a leading blank before zero and positive numbers, "." as decimal point
+  /// whatever the locale, no zero before it, and the shortest digits that read back to the same
+  /// double. Raises `InvalidArgument` for infinities and not-a-number, which the format cannot
+  /// carry.
+  explicit NumberText(double number);
+
+  operator std::u16string_view() const noexcept { return {characters_, length_}; }  // NOLINT
+
+ private:
+  struct Decimal;
+
+  void AppendScientific(const Decimal& decimal);
+  void AppendPlain(const Decimal& decimal);
+  void Append(char16_t character) { characters_[length_++] = character; }
+  void Append(std::string_view characters);
+  void AppendZeros(int count);
+
+  char16_t characters_[48];
+  size_t length_ = 0;
+};
+
+/// The integer of a decimal text with an optional sign and blanks around it; raises `TypeMismatch`
+/// for any other text and `Overflow` beyond 32 bits.
+int32_t TextToInteger(std::u16string_view text);
+
+/// The double of a decimal text with "." as decimal point, whatever the user's locale; a text
+/// written with the locale's own separator is taken as well. Raises `IllegalDecimalSeparator` when
+/// the locale's separator is empty or a blank, `TypeMismatch` for a text that is no number and
+/// `Overflow` for one beyond a double.
+double XMLTextToDouble(std::u16string_view text);
+
+}  // namespace praxen
+
+#endif  // PRAXEN_CORE_NUMBERS_H_

@@ -1,0 +1,121 @@
+// Growth, insertion and removal of the text buffer.
+#include "praxen/core/string_builder.h"
+
+#include <algorithm>
+#include <limits>
+#include <new>
+
+#include "praxen/core/error.h"
+
+namespace praxen {
+
+namespace {
+
+constexpr int64_t kMostBytes = std::numeric_limits<int32_t>::max();
+
+int32_t RoundUp(int64_t bytes, int32_t step) {
+  const int64_t rounded = (bytes + step - 1) / step * step;
+  if (rounded > kMostBytes) throw Overflow();
+  return static_cast<int32_t>(rounded);
+}
+
+}  // namespace
+
+CStringBuilder::CStringBuilder() { Capacity(growth_step_); }
+
+void CStringBuilder::BufferBump(int32_t step) {
+  if (step <= 0) return;
+  if (step == std::numeric_limits<int32_t>::max()) throw Overflow();
+  growth_step_ = step + step % 2;
+}
+
+void CStringBuilder::Capacity(int32_t bytes) {
+  if (bytes <= 0) return;
+  const int32_t capacity = RoundUp(bytes, growth_step_);
+  const size_t characters = static_cast<size_t>(capacity) / sizeof(char16_t);
+  Reserve(characters);
+  capacity_ = capacity;
+  logical_ = characters;
+  length_ = std::min(length_, characters);
+}
+
+void CStringBuilder::Chars(int32_t index, std::u16string_view character) {
+  if (index < 0 || index >= Length()) {
+    throw BufferRangeError(u"CStringBuilder.Chars"_text,
+                           u"Tried assigning character past end of buffer."_text);
+  }
+  if (character.empty()) throw InvalidArgument();
+  characters_[static_cast<size_t>(index)] = character.front();
+}
+
+Text CStringBuilder::Chars(int32_t index) const {
+  if (index < 0 || index >= Length()) {
+    throw BufferRangeError(u"CStringBuilder.Chars"_text,
+                           u"Tried reading character past end of buffer."_text);
+  }
+  return Text(view().substr(static_cast<size_t>(index), 1));
+}
+
+void CStringBuilder::Length(int32_t characters) {
+  if (characters < 0) return;
+  const size_t length = static_cast<size_t>(characters);
+  if (length > length_) {
+    const size_t added = length - length_;
+    std::fill_n(Extend(added), added, u'\0');
+  }
+  length_ = length;
+}
+
+int32_t CStringBuilder::EnsureCapacity(int32_t bytes) {
+  if (bytes > capacity_) Capacity(bytes);
+  return capacity_;
+}
+
+CStringBuilder& CStringBuilder::Insert(int32_t index, std::u16string_view text) {
+  if (index < 0 || index > Length()) {
+    throw BufferRangeError(u"CStringBuilder.Insert"_text, u"Argument(s) out of range."_text);
+  }
+  const Text kept(text);  // The text may be a part of the buffer that is about to move.
+  const size_t tail = length_ - static_cast<size_t>(index);
+  Extend(kept.size());
+  char16_t* const place = characters_.get() + index;
+  std::memmove(place + kept.size(), place, tail * sizeof(char16_t));
+  std::memcpy(place, kept.data(), kept.size() * sizeof(char16_t));
+  return *this;
+}
+
+CStringBuilder& CStringBuilder::Remove(int32_t start, int32_t count) {
+  if (start < 0 || count < 0 || int64_t{start} + count > Length()) {
+    throw BufferRangeError(u"CStringBuilder.Remove"_text, u"Argument(s) out of range."_text);
+  }
+  char16_t* const place = characters_.get() + start;
+  const size_t removed = static_cast<size_t>(count);
+  const size_t tail = length_ - static_cast<size_t>(start) - removed;
+  std::memmove(place, place + removed, tail * sizeof(char16_t));
+  length_ -= removed;
+  return *this;
+}
+
+void CStringBuilder::Grow(size_t count) {
+  const size_t most = static_cast<size_t>(kMostBytes) / sizeof(char16_t);
+  if (count > most - length_) throw Overflow();
+  Reserve(std::max(length_ + count, std::min(2 * physical_, most)));
+}
+
+void CStringBuilder::RaiseCapacity(size_t characters) {
+  const int32_t capacity =
+      RoundUp(static_cast<int64_t>(characters * sizeof(char16_t)), growth_step_);
+  capacity_ = capacity;
+  logical_ = static_cast<size_t>(capacity) / sizeof(char16_t);
+}
+
+void CStringBuilder::Reserve(size_t characters) {
+  if (characters <= physical_) return;
+  void* const grown = std::realloc(characters_.get(), characters * sizeof(char16_t));
+  if (grown == nullptr) throw std::bad_alloc();
+  static_cast<void>(characters_.release());
+  characters_.reset(static_cast<char16_t*>(grown));
+  physical_ = characters;
+}
+
+}  // namespace praxen

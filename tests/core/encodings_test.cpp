@@ -1,0 +1,188 @@
+// Texts of enumerations, numbers and names.
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <clocale>
+#include <limits>
+#include <random>
+
+#include "praxen/core/enumerations.h"
+#include "praxen/core/error.h"
+#include "praxen/core/numbers.h"
+#include "praxen/core/text_functions.h"
+#include "praxen/platform/locale.h"
+
+namespace praxen {
+namespace {
+
+TEST(Enumerations, ReadTheirOwnTextsAndMapOthers) {
+  struct Case {
+    const EnumerationDescription& enumeration;
+    std::u16string_view text;
+    int32_t value;
+  };
+  const Case cases[] = {
+      {DescribeEnumeration<DirectionValue>(), u"in", 0},
+      {DescribeEnumeration<DirectionValue>(), u"in_out", 1},
+      {DescribeEnumeration<DirectionValue>(), u"IN", 2},
+      {DescribeEnumeration<ScopeValue>(), u"public", 0},
+      {DescribeEnumeration<ScopeValue>(), u"Public", 1},
+      {DescribeEnumeration<VisibilityInGraphicsValue>(), u"visible", 1},
+      {DescribeEnumeration<VisibilityInGraphicsValue>(), u"", 2},
+      {DescribeEnumeration<AutoPosValue>(), u"Bottom", 1},
+      {DescribeEnumeration<SFCPriorityValue>(), u"highest", 5},
+      {DescribeEnumeration<SFCPriorityValue>(), u"urgent", 0},
+      {DescribeEnumeration<TaskPriorityValue>(), u"3", 3},
+      {DescribeEnumeration<TaskPriorityValue>(), u"17", 5},
+      {DescribeEnumeration<OutputUpdateValue>(), u"first", 0},
+      {DescribeEnumeration<OutputUpdateValue>(), u"First", 1},
+      {DescribeEnumeration<TaskSILLevelValue>(), u"NONSIL", 0},
+      {DescribeEnumeration<TaskSILLevelValue>(), u"0", 0},
+      {DescribeEnumeration<TaskSILLevelValue>(), u"SIL2", 1},
+      {DescribeEnumeration<TaskSILLevelValue>(), u"2", 1},
+      {DescribeEnumeration<TaskSILLevelValue>(), u"3", 2},
+      {DescribeEnumeration<TaskSILLevelValue>(), u"sil1", 2},
+      {DescribeEnumeration<MessageTypeValue>(), u"MessageGeneral", 11},
+      {DescribeEnumeration<MessageTypeValue>(), u"Program", 14},
+  };
+  for (const Case& test : cases) {
+    EXPECT_EQ(test.enumeration.FromText(test.text), test.value) << ToUtf8(test.text);
+  }
+}
+
+TEST(Enumerations, WriteTextsThatReadBack) {
+  size_t count = 0;
+  for (const EnumerationDescription* const enumeration : AllEnumerations()) {
+    ++count;
+    for (const EnumerationConstant& constant : enumeration->constants) {
+      const bool isOther = constant.name == "pxOtherMsg";
+      EXPECT_EQ(enumeration->FromText(enumeration->ToText(constant.value)),
+                isOther ? pxGeneralMsg : constant.value)
+          << constant.name;
+    }
+    EXPECT_EQ(enumeration->ToText(99), u"");
+    EXPECT_EQ(enumeration->ToText(-1), u"");
+  }
+  EXPECT_EQ(count, 9u);
+  EXPECT_EQ(MessageTypeToText(14), u"MessageGeneral");
+  EXPECT_EQ(SILLevelToText(1), u"SIL2");
+  EXPECT_EQ(TextToScope(u"private"), pxPrivate);
+}
+
+TEST(Numbers, AreWrittenInTheClassicForm) {
+  struct Case {
+    double number;
+    const char16_t* text;
+  };
+  const Case cases[] = {
+      {0, u" 0"},           {-0.0, u" 0"},         {1, u" 1"},
+      {-1, u"-1"},          {10, u" 10"},          {0.5, u" .5"},
+      {-2.5, u"-2.5"},      {-0.001, u"-.001"},    {1e14, u" 100000000000000"},
+      {1e15, u" 1E+15"},    {1.5e20, u" 1.5E+20"}, {1e-15, u" .000000000000001"},
+      {1e-16, u" 1E-16"},   {1e100, u" 1E+100"},   {123456.75, u" 123456.75"},
+      {5e-324, u" 5E-324"}, {0.1, u" .1"},         {100.25, u" 100.25"},
+  };
+  for (const Case& test : cases) {
+    EXPECT_EQ(Text(NumberText(test.number)), test.text);
+    EXPECT_EQ(XMLTextToDouble(test.text), test.number);
+  }
+  EXPECT_THROW(NumberText(std::numeric_limits<double>::infinity()), Error);
+  EXPECT_THROW(NumberText(std::numeric_limits<double>::quiet_NaN()), Error);
+  EXPECT_EQ(Text(NumberText(std::numeric_limits<int32_t>::min())), u"-2147483648");
+}
+
+TEST(Numbers, ReadBackToTheSameDouble) {
+  std::mt19937_64 random(7);
+  for (int i = 0; i < 20000; ++i) {
+    const double number = std::bit_cast<double>(random());
+    if (!std::isfinite(number)) continue;
+    ASSERT_EQ(XMLTextToDouble(NumberText(number)), number);
+  }
+}
+
+TEST(Numbers, RefuseWhatIsNoNumber) {
+  const uint32_t mismatch = TypeMismatch().number(), overflow = Overflow().number();
+  struct Case {
+    const char16_t* text;
+    uint32_t integer, decimal;  // 0: the text is a number
+  };
+  const Case cases[] = {
+      {u"12", 0, 0},
+      {u" +12\t", 0, 0},
+      {u"-12", 0, 0},
+      {u"12a", mismatch, mismatch},
+      {u"", mismatch, mismatch},
+      {u" ", mismatch, mismatch},
+      {u"+-1", mismatch, mismatch},
+      {u"--1", mismatch, mismatch},
+      {u"1 2", mismatch, mismatch},
+      {u"1.5", mismatch, 0},
+      {u"1,5", mismatch, mismatch},
+      {u"1e3", mismatch, 0},
+      {u"inf", mismatch, mismatch},
+      {u"-nan", mismatch, mismatch},
+      {u"0x10", mismatch, mismatch},
+      {u"\u0661", mismatch, mismatch},
+      {u"2147483648", overflow, 0},
+      {u"1e999", mismatch, overflow},
+  };
+  const auto outcome = [](auto convert) -> uint32_t {
+    try {
+      convert();
+      return 0;
+    } catch (const Error& error) {
+      return error.number();
+    }
+  };
+  for (const Case& test : cases) {
+    EXPECT_EQ(outcome([&] { TextToInteger(test.text); }), test.integer) << ToUtf8(test.text);
+    EXPECT_EQ(outcome([&] { XMLTextToDouble(test.text); }), test.decimal) << ToUtf8(test.text);
+  }
+}
+
+class SeparatorTest : public ::testing::Test {
+ protected:
+  ~SeparatorTest() override { SetDecimalSeparatorQuery(nullptr); }
+};
+
+TEST_F(SeparatorTest, DecimalsAreReadUnderAnyLocale) {
+  SetDecimalSeparatorQuery([] { return std::u16string(u","); });
+  EXPECT_EQ(XMLTextToDouble(u"12.5"), 12.5);
+  EXPECT_EQ(XMLTextToDouble(u"12,5"), 12.5);
+  EXPECT_EQ(Text(NumberText(12.5)), u" 12.5");
+  for (const char16_t* const separator : {u"", u" "}) {
+    static const char16_t* reported;
+    reported = separator;
+    SetDecimalSeparatorQuery([] { return std::u16string(reported); });
+    try {
+      XMLTextToDouble(u"1");
+      ADD_FAILURE();
+    } catch (const Error& error) {
+      EXPECT_EQ(error.number(), 0x8004025F);
+      EXPECT_EQ(error.description(), u"Illegal decimal separator");
+    }
+  }
+}
+
+TEST(TextFunctions, UnescapeInOrder) {
+  struct Case {
+    const char16_t *text, *unescaped;
+  };
+  const Case cases[] = {
+      {u"a&lt;b&gt;c&amp;d", u"a<b>c&d"}, {u"&amp;lt;", u"&lt;"},      {u"&&lt;&lt;", u"&<<"},
+      {u"&LT; &quot;", u"&LT; &quot;"},   {u"&amp", u"&amp"},          {u"", u""},
+      {u"&&amp;amp;", u"&&amp;"},         {u"x &l&lt;t;", u"x &l<t;"},
+  };
+  for (const Case& test : cases) EXPECT_EQ(UnescapeText(test.text), test.unescaped);
+}
+
+TEST(TextFunctions, SplitAtTheFirstDot) {
+  EXPECT_EQ(TextBeforeFirstDot(u"a.b.c"), u"a");
+  EXPECT_EQ(TextAfterFirstDot(u"a.b.c"), u"b.c");
+  EXPECT_EQ(TextBeforeFirstDot(u"abc"), u"abc");
+  EXPECT_EQ(TextAfterFirstDot(u"abc"), u"");
+  EXPECT_EQ(TextBeforeFirstDot(u".x"), u"");
+}
+
+}  // namespace
+}  // namespace praxen
