@@ -1,0 +1,60 @@
+// The instantiation of a class's description; included by the source file of its family only.
+#ifndef PRAXEN_DESCRIBE_DEFINE_H_
+#define PRAXEN_DESCRIBE_DEFINE_H_
+
+#include <type_traits>
+
+#include "praxen/describe/description.h"
+#include "praxen/describe/dispatch.h"
+
+namespace praxen {
+
+template <class Class>
+concept HasLayout = requires {
+  Class::layout();
+};
+
+template <class Class>
+concept ImplementsKind = requires {
+  typename Class::Kind;
+}
+&&!KindClass<Class>;
+
+namespace define_detail {
+
+template <class Class>
+const Layout& LayoutOf() {
+  static const Layout layout = CompleteLayout(Class::layout(), ElementName<Class>(), *New<Class>());
+  return layout;
+}
+
+template <class Class>
+ClassFacts FactsOf() {
+  ClassFacts facts;
+  facts.name = TypeName<Class>();
+  facts.help = Class::kHelp;
+  facts.members = Class::members();
+  facts.head = DispatchHead<Object>();
+  if constexpr (KindClass<Class>) {
+    facts.isKind = true;
+    facts.kindHead = DispatchHead<Class>();
+  }
+  if constexpr (std::is_default_constructible_v<Class>) {
+    facts.create = [] { return Ref<Object>(New<Class>()); };
+  }
+  if constexpr (HasLayout<Class>) facts.layout = &LayoutOf<Class>;
+  if constexpr (ImplementsKind<Class>) facts.kind = &Describe<typename Class::Kind>();
+  return facts;
+}
+
+}  // namespace define_detail
+
+template <class Class>
+const ClassDescription& Describe() {
+  static const ClassDescription description(define_detail::FactsOf<Class>());
+  return description;
+}
+
+}  // namespace praxen
+
+#endif  // PRAXEN_DESCRIBE_DEFINE_H_

@@ -1,0 +1,339 @@
+// The XML layout of a class: its element, attributes and children in the order they are written.
+#ifndef PRAXEN_DESCRIBE_LAYOUT_H_
+#define PRAXEN_DESCRIBE_LAYOUT_H_
+
+#include <concepts>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "praxen/core/entity_name.h"
+#include "praxen/core/object.h"
+#include "praxen/describe/slots.h"
+#include "praxen/describe/value_type.h"
+#include "praxen/platform/xml_name.h"
+
+namespace praxen {
+
+class XMLStringWriter;
+class XmlNode;
+
+/// When an attribute is written. All are read.
+enum class Rule : uint8_t {
+  /// Always; the object cannot be written while it is empty.
+  Required,
+  Always,
+  /// When the value differs from that of a new object.
+  Optional,
+  UnlessEmpty,
+  /// Never; only reading fills it.
+  ReadOnly
+};
+
+struct Attribute {
+  std::u16string name;
+  Rule rule = Rule::Always;
+  ValueType type;
+  void* (*storage)(Object& object) = nullptr;
+  /// The member that holds the value.
+  std::string_view property;
+  /// Reading leaves the value alone when the attribute is absent.
+  bool readIfPresent = false;
+
+  // Filled from a new object before the layout is used.
+
+  XmlName xmlName = nullptr;
+  /// The value at creation, as it would be written.
+  Text creationText = {};
+  int32_t creationNumber = 0;
+};
+
+enum class ChildKind : uint8_t {
+  /// A list in an element of its own.
+  List,
+  /// The elements of a list, without an element around them.
+  Items,
+  /// An object in its element, written when there is one.
+  Object,
+  /// An object read from the next node whatever its name.
+  Unnamed,
+  /// An element that holds a text.
+  Text,
+  /// The text as the element's own content.
+  Content,
+  /// Written and read by the class.
+  Custom
+};
+
+/// An element that a class writes and reads itself.
+struct ElementShape {
+  enum class Content : uint8_t { Children, Text };
+
+  std::u16string name;
+  Content content = Content::Text;
+  /// Attributes, all of them required.
+  std::vector<std::u16string> attributes = {};
+};
+
+struct Child {
+  ChildKind kind;
+  /// The element of a text; empty for the kinds whose class knows it.
+  std::u16string name = {};
+  void* (*storage)(Object& object) = nullptr;
+  std::string_view property = {};
+  /// The class of a list or an object.
+  const ClassDescription& (*object)() = nullptr;
+  /// The list or object that is held, or null; and the same, created when there is none.
+  Object* (*held)(Object& object) = nullptr;
+  Object& (*heldOrCreated)(Object& object) = nullptr;
+  /// A list that is written also when it is empty is left out here.
+  bool leaveOutEmpty = false;
+  /// A text is written also when it is empty.
+  bool always = false;
+  /// Reading raises `WrongElementName` when another node stands in the place of a text.
+  bool strict = false;
+  /// What is written in place of a text.
+  praxen::Text (*writtenAs)(const praxen::Text& text) = nullptr;
+  /// The element inside the element of a text that holds it, as in an SFC step's actions.
+  std::u16string inner = {};
+  void (*writeXML)(Object& object, XMLStringWriter& writer) = nullptr;
+  /// Moves the cursor past what it reads.
+  void (*readXML)(Object& object, XmlNode& cursor) = nullptr;
+  /// The name of the element of the list's or object's class.
+  std::u16string (*elementName)() = nullptr;
+  /// The elements of a custom child, and what they hold in a sentence.
+  std::vector<ElementShape> shapes = {};
+  std::string_view explanation = {};
+  /// The content is markup of any form, which nothing looks into.
+  bool isMarkup = false;
+
+  /// The name of its element; filled in before the layout is used.
+  XmlName xmlName = nullptr;
+};
+
+/// One of the classes that the elements of a list may have.
+struct Choice {
+  const ClassDescription& (*object)() = nullptr;
+  std::u16string (*elementName)() = nullptr;
+  Ref<Object> (*create)() = nullptr;
+  /// Whether an element of a kind interface says that it is of this class; null in other lists.
+  bool (*isKind)(const Object& element) = nullptr;
+
+  /// The name of its element; filled in before the layout is used.
+  XmlName xmlName = nullptr;
+};
+
+/// When a list writes an element around its elements.
+enum class Container : uint8_t { None, WhenNotEmpty, Always };
+
+struct Layout {
+  /// The class's name when empty.
+  std::u16string element = {};
+  std::vector<Attribute> attributes = {};
+  std::vector<Child> children = {};
+  /// Of a list: the classes of its elements, in the order in which names and kinds are tested.
+  std::vector<Choice> elements = {};
+  Container container = Container::Always;
+};
+
+/// Names the element and fills in what attributes hold in a new object.
+Layout CompleteLayout(Layout layout, std::u16string element, Object& created);
+
+inline std::u16string ToUtf16(std::string_view ascii) {
+  return std::u16string(ascii.begin(), ascii.end());
+}
+
+/// The name of the element of a class: its `kElement` where it states one, else its own.
+template <class Class>
+std::u16string ElementName() {
+  if constexpr (requires { Class::kElement; }) {
+    return Class::kElement;
+  } else {
+    return ToUtf16(TypeName<Class>());
+  }
+}
+
+namespace layout_detail {
+
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Attribute Make(Rule rule, std::u16string_view name) {
+  using Slots = PropertySlots<Pointer>;
+  constexpr std::string_view property = EntityName<Pointer>();
+  return {name.empty() ? ToUtf16(property) : std::u16string(name), rule,
+          ValueTypeOf<typename Slots::Value>(), &Slots::Address, property};
+}
+
+}  // namespace layout_detail
+
+// The attributes are named like their properties unless a name is given.
+
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Attribute required(std::u16string_view name = {}) {
+  return layout_detail::Make<Pointer>(Rule::Required, name);
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Attribute always(std::u16string_view name = {}) {
+  return layout_detail::Make<Pointer>(Rule::Always, name);
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Attribute optional(std::u16string_view name = {}) {
+  return layout_detail::Make<Pointer>(Rule::Optional, name);
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Attribute unlessEmpty(std::u16string_view name = {}) {
+  return layout_detail::Make<Pointer>(Rule::UnlessEmpty, name);
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Attribute readOnly(std::u16string_view name = {}) {
+  return layout_detail::Make<Pointer>(Rule::ReadOnly, name);
+}
+inline Attribute ReadIfPresent(Attribute attribute) {
+  attribute.readIfPresent = true;
+  return attribute;
+}
+
+/// The attributes of a type's head, followed by the others.
+template <class Class>
+[[gnu::noinline, gnu::cold]] std::vector<Attribute> POUHeader(
+    std::initializer_list<Attribute> others = {}) {
+  std::vector<Attribute> attributes{required<&Class::Name>(), optional<&Class::Protected>(),
+                                    optional<&Class::Hidden>(), optional<&Class::Scope>()};
+  attributes.insert(attributes.end(), others);
+  return attributes;
+}
+
+namespace layout_detail {
+
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child Make(ChildKind kind) {
+  using Slots = PropertySlots<Pointer>;
+  Child child{kind};
+  child.storage = &Slots::Address;
+  child.property = EntityName<Pointer>();
+  if constexpr (ReferenceType<typename Slots::Value>) {
+    using Held = typename RefTarget<typename Slots::Value>::type;
+    child.object = &Describe<Held>;
+    child.elementName = &ElementName<Held>;
+    child.held = [](Object& object) -> Object* { return Slots::Storage(object).get(); };
+    child.heldOrCreated = [](Object& object) -> Object& {
+      Ref<Held>& held = Slots::Storage(object);
+      if (!held) held = New<Held>();
+      return *held;
+    };
+  } else {
+    child.name = ToUtf16(child.property);
+  }
+  return child;
+}
+
+}  // namespace layout_detail
+
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child list() {
+  return layout_detail::Make<Pointer>(ChildKind::List);
+}
+/// A list that always writes its element elsewhere, and here only when it is not empty.
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child listUnlessEmpty() {
+  Child child = list<Pointer>();
+  child.leaveOutEmpty = true;
+  return child;
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child items() {
+  return layout_detail::Make<Pointer>(ChildKind::Items);
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child object() {
+  return layout_detail::Make<Pointer>(ChildKind::Object);
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child unnamed() {
+  return layout_detail::Make<Pointer>(ChildKind::Unnamed);
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child text() {
+  return layout_detail::Make<Pointer>(ChildKind::Text);
+}
+/// A text in an element inside another element.
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child textIn(std::u16string_view element, std::u16string_view inner) {
+  Child child = text<Pointer>();
+  child.name = element;
+  child.inner = inner;
+  return child;
+}
+/// A text whose element is written also when the text is empty.
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child textAlways(std::u16string_view name = {}) {
+  Child child = text<Pointer>();
+  if (!name.empty()) child.name = name;
+  child.always = true;
+  return child;
+}
+/// A text that must be the next node, if there is one.
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child strictText() {
+  Child child = text<Pointer>();
+  child.strict = true;
+  return child;
+}
+template <auto Pointer>
+[[gnu::noinline, gnu::cold]] Child content() {
+  return layout_detail::Make<Pointer>(ChildKind::Content);
+}
+
+namespace layout_detail {
+
+template <class Pointer>
+struct ClassOf;
+template <class C, class T>
+struct ClassOf<T C::*> {
+  using type = C;
+};
+
+}  // namespace layout_detail
+
+/// Children that the class writes and reads itself, with `void Write(XMLStringWriter&)` and
+/// `void Read(XmlNode& cursor)`, which moves the cursor behind what it reads.
+template <auto Write, auto Read>
+[[gnu::noinline, gnu::cold]] Child custom(std::string_view explanation,
+                                          std::vector<ElementShape> shapes) {
+  Child child{ChildKind::Custom};
+  child.shapes = std::move(shapes);
+  child.writeXML = [](Object& object, XMLStringWriter& writer) {
+    (static_cast<typename layout_detail::ClassOf<decltype(Write)>::type&>(object).*Write)(writer);
+  };
+  child.readXML = [](Object& object, XmlNode& cursor) {
+    (static_cast<typename layout_detail::ClassOf<decltype(Read)>::type&>(object).*Read)(cursor);
+  };
+  child.explanation = explanation;
+  return child;
+}
+
+/// The elements of a list that are all of one class.
+template <class Class>
+[[gnu::noinline, gnu::cold]] Choice choice() {
+  return {&Describe<Class>, &ElementName<Class>, [] { return Ref<Object>(New<Class>()); }};
+}
+/// Elements of a kind that answer true to `IsKind`.
+template <class Class, class Kind, bool (Kind::*IsKind)() const>
+[[gnu::noinline, gnu::cold]] Choice choice() {
+  Choice made = choice<Class>();
+  made.isKind = [](const Object& element) { return (static_cast<const Kind&>(element).*IsKind)(); };
+  return made;
+}
+
+/// Elements of a kind that answered true to no choice before.
+template <class Class>
+[[gnu::noinline, gnu::cold]] Choice otherwise() {
+  Choice made = choice<Class>();
+  made.isKind = [](const Object&) { return true; };
+  return made;
+}
+
+}  // namespace praxen
+
+#endif  // PRAXEN_DESCRIBE_LAYOUT_H_

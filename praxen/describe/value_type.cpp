@@ -1,0 +1,132 @@
+// Conversions of values to and from automation variants.
+#include "praxen/describe/value_type.h"
+
+#include <new>
+
+#include "praxen/core/error.h"
+#include "praxen/describe/slots.h"
+#include "praxen/platform/automation_values.h"
+
+namespace praxen {
+
+namespace {
+
+// The variant that holds the value or a reference to it, once a reference to a variant is followed.
+// It holds neither a null reference, a further reference to a variant, nor the mark of an argument
+// that is left out.
+const VARIANT& Resolve(const VARIANT& argument) {
+  const bool isIndirect = argument.vt == (VT_BYREF | VT_VARIANT) && argument.pvarVal != nullptr;
+  const VARIANT& value = isIndirect ? *argument.pvarVal : argument;
+  const bool isReference = (value.vt & VT_BYREF) != 0;
+  if (value.vt == (VT_BYREF | VT_VARIANT) || (isReference && value.byref == nullptr)) {
+    throw ArgumentError{DISP_E_TYPEMISMATCH, &argument};
+  }
+  if (value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND) {
+    throw ArgumentError{DISP_E_PARAMNOTOPTIONAL, &argument};
+  }
+  return value;
+}
+
+// The value as the platform converts it; whatever it cannot convert is of the wrong type.
+Variant Convert(const VARIANT& argument, VARTYPE type) {
+  Variant converted;
+  const HRESULT result = VariantChangeType(&converted, const_cast<VARIANT*>(&Resolve(argument)),
+                                           VARIANT_ALPHABOOL, type);
+  if (result == E_OUTOFMEMORY) throw std::bad_alloc();
+  if (FAILED(result)) {
+    throw ArgumentError{result == DISP_E_OVERFLOW ? result : DISP_E_TYPEMISMATCH, &argument};
+  }
+  return converted;
+}
+
+Text TextOf(Variant variant) {
+  if (FAILED(variant.ChangeType(VT_BSTR, VARIANT_ALPHABOOL))) ThrowTypeMismatch();
+  return variant.View();
+}
+
+IUnknown* InterfaceOf(const VARIANT& argument) {
+  const VARIANT& value = Resolve(argument);
+  switch (value.vt) {
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+      return value.punkVal;
+    case VT_DISPATCH | VT_BYREF:
+    case VT_UNKNOWN | VT_BYREF:
+      return *value.ppunkVal;
+    case VT_NULL:
+      return nullptr;
+    default:
+      throw ArgumentError{DISP_E_TYPEMISMATCH, &argument};
+  }
+}
+
+}  // namespace
+
+AnyValue::AnyValue(int32_t number) : text_(TextOf(Variant(number))) {}
+AnyValue::AnyValue(double number) : text_(TextOf(Variant(number))) {}
+AnyValue::AnyValue(bool value) : text_(TextOf(Variant(value))) {}
+
+namespace value_type {
+
+void TextToVariant(const void* value, tagVARIANT& variant) {
+  variant.bstrVal = AllocateBstr(static_cast<const Text*>(value)->view());
+  variant.vt = VT_BSTR;
+}
+
+void TextFromVariant(void* value, const tagVARIANT& variant) {
+  *static_cast<Text*>(value) = Convert(variant, VT_BSTR).View();
+}
+
+void BooleanToVariant(const void* value, tagVARIANT& variant) {
+  variant.boolVal = *static_cast<const bool*>(value) ? VARIANT_TRUE : VARIANT_FALSE;
+  variant.vt = VT_BOOL;
+}
+
+void BooleanFromVariant(void* value, const tagVARIANT& variant) {
+  *static_cast<bool*>(value) = Convert(variant, VT_BOOL).boolVal != VARIANT_FALSE;
+}
+
+void IntegerToVariant(const void* value, tagVARIANT& variant) {
+  variant.lVal = *static_cast<const int32_t*>(value);
+  variant.vt = VT_I4;
+}
+
+void IntegerFromVariant(void* value, const tagVARIANT& variant) {
+  *static_cast<int32_t*>(value) = static_cast<int32_t>(Convert(variant, VT_I4).lVal);
+}
+
+void DoubleToVariant(const void* value, tagVARIANT& variant) {
+  variant.dblVal = *static_cast<const double*>(value);
+  variant.vt = VT_R8;
+}
+
+void DoubleFromVariant(void* value, const tagVARIANT& variant) {
+  *static_cast<double*>(value) = Convert(variant, VT_R8).dblVal;
+}
+
+void AnyFromVariant(void* value, const tagVARIANT& variant) {
+  *static_cast<AnyValue*>(value) = Text(Convert(variant, VT_BSTR).View());
+}
+
+Ref<Object> ObjectFromVariant(const tagVARIANT& variant, Ref<Object> (*adapt)(Interface*)) {
+  IUnknown* const unknown = InterfaceOf(variant);
+  try {
+    return abi::ToObject(reinterpret_cast<Interface*>(unknown), adapt);
+  } catch (const Error&) {
+    ThrowWrongClass(variant);
+  }
+}
+
+void ObjectToVariant(Object* object, tagVARIANT& variant) {
+  Interface* stored = nullptr;
+  abi::StoreObject(object, &stored);
+  variant.pdispVal = reinterpret_cast<IDispatch*>(stored);
+  variant.vt = VT_DISPATCH;
+}
+
+void ThrowWrongClass(const tagVARIANT& variant) {
+  throw ArgumentError{DISP_E_TYPEMISMATCH, &variant};
+}
+
+}  // namespace value_type
+}  // namespace praxen

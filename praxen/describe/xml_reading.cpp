@@ -1,0 +1,138 @@
+// The one walk that reads every described class.
+#include "praxen/describe/xml_reading.h"
+
+#include "praxen/core/error.h"
+#include "praxen/core/numbers.h"
+#include "praxen/describe/description.h"
+
+namespace praxen {
+
+namespace {
+
+bool TextToBoolean(std::u16string_view text) { return text == u"1" || text == u"true"; }
+
+void SetText(Text& value, std::u16string_view text) {
+  // Most attributes hold what a new object holds.
+  if (value.view() != text) value = text;
+}
+
+Error MissingAttribute(const XmlNode& node, std::u16string_view name) {
+  return MissingObject(u"The attribute \""_text + name + u"\" of \"" + node.nodeName() +
+                       u"\" is missing")
+      .At(PlaceOf(node));
+}
+
+void SetValue(const Attribute& attribute, void* value, std::u16string_view text) {
+  switch (attribute.type.kind) {
+    case ValueKind::Text:
+      return SetText(*static_cast<Text*>(value), text);
+    case ValueKind::Boolean:
+      *static_cast<bool*>(value) = TextToBoolean(text);
+      return;
+    case ValueKind::Enumeration:
+      *static_cast<int32_t*>(value) = attribute.type.enumeration->FromText(text);
+      return;
+    case ValueKind::Double:
+      *static_cast<double*>(value) = XMLTextToDouble(text);
+      return;
+    default:
+      *static_cast<int32_t*>(value) = TextToInteger(text);
+  }
+}
+
+void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& node) {
+  const XmlAttribute* const found = node.attribute(attribute.xmlName);
+  if (found == nullptr) {
+    if (attribute.readIfPresent) return;
+    throw MissingAttribute(node, attribute.name);
+  }
+  try {
+    SetValue(attribute, attribute.storage(object), found->value());
+  } catch (const Error& error) {
+    throw error.At(PlaceOf(node));
+  }
+}
+
+// The text of an element's first child, which is all that an element of text holds.
+std::u16string_view FirstText(const XmlNode& node) { return node.firstChild().nodeValue(); }
+
+// The text of an element as `child` lays it out; the value stays as it is where there is no text.
+void ReadText(Text& value, const Child& child, const XmlNode& node) {
+  const XmlNode holder = child.inner.empty() ? node : node.firstChild();
+  if (holder.firstChild()) value = FirstText(holder);
+}
+
+void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNode& cursor) {
+  switch (child.kind) {
+    case ChildKind::Custom:
+      return child.readXML(object, cursor);
+    case ChildKind::Content:
+      SetText(*static_cast<Text*>(child.storage(object)), FirstText(parent));
+      return;
+    case ChildKind::Items:
+      ReadItems(*child.held(object), child.object().layout(), cursor);
+      return;
+    case ChildKind::Unnamed:
+      if (!cursor) return;
+      child.held(object)->ReadXML(cursor);
+      break;
+    case ChildKind::Text:
+      if (child.strict) ReadTextElement(cursor, child.name);
+      if (cursor.name() != child.xmlName || !cursor) return;
+      ReadText(*static_cast<Text*>(child.storage(object)), child, cursor);
+      break;
+    case ChildKind::List:
+    case ChildKind::Object:
+      if (!cursor || cursor.name() != child.xmlName) return;
+      child.heldOrCreated(object).ReadXML(cursor);
+      break;
+  }
+  cursor = cursor.nextSibling();
+}
+
+}  // namespace
+
+Place PlaceOf(const XmlNode& node) { return node.position(); }
+
+std::u16string_view RequiredAttribute(const XmlNode& node, std::u16string_view name) {
+  const XmlAttribute* const attribute = node.attribute(name);
+  if (attribute == nullptr) throw MissingAttribute(node, name);
+  return attribute->value();
+}
+
+bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name) {
+  return TextToBoolean(RequiredAttribute(node, name));
+}
+
+std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name) {
+  if (!node) return {};
+  if (node.nodeName() != name) throw WrongElementName().At(PlaceOf(node));
+  return FirstText(node);
+}
+
+std::u16string_view ReadDescription(const XmlNode& node) {
+  return ReadTextElement(node, u"Description");
+}
+
+void ReadItems(Object& list, const Layout& layout, XmlNode node) {
+  for (; node; node = node.nextSibling()) {
+    for (const Choice& choice : layout.elements) {
+      if (node.name() != choice.xmlName) continue;
+      const Ref<Object> element = choice.create();
+      element->ReadXML(node);
+      list.Append(element);
+      break;
+    }
+  }
+}
+
+void ReadElement(Object& object, const Layout& layout, const XmlNode& node) {
+  for (const Attribute& attribute : layout.attributes) ReadAttribute(object, attribute, node);
+  XmlNode cursor = node.firstChild();
+  for (const Child& child : layout.children) ReadChild(object, child, node, cursor);
+  if (!layout.elements.empty()) ReadItems(object, layout, cursor);
+}
+
+void Object::ReadXML(const XmlNode& node) { ReadElement(*this, description().layout(), node); }
+
+}  // namespace praxen

@@ -1,0 +1,37 @@
+// Reading of objects by their layouts, and the readers that several classes share.
+#ifndef PRAXEN_DESCRIBE_XML_READING_H_
+#define PRAXEN_DESCRIBE_XML_READING_H_
+
+#include <string_view>
+
+#include "praxen/core/error.h"
+#include "praxen/core/object.h"
+#include "praxen/describe/layout.h"
+#include "praxen/platform/xml_document.h"
+
+namespace praxen {
+
+/// Fills a fresh object of that layout from its element.
+void ReadElement(Object& object, const Layout& layout, const XmlNode& node);
+
+/// Appends an element to the list for the node and for each of its following siblings that is named
+/// like one of the list's classes; the others are skipped.
+void ReadItems(Object& list, const Layout& layout, XmlNode first);
+
+/// The value of an attribute; raises `MissingObject` when it is absent.
+std::u16string_view RequiredAttribute(const XmlNode& node, std::u16string_view name);
+
+/// Whether the attribute is exactly "1" or "true".
+bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name);
+
+/// The text of an element that holds only text, empty without a node; raises `WrongElementName`
+/// when the node has another name.
+std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name);
+std::u16string_view ReadDescription(const XmlNode& node);
+
+/// Where the node stands in the document, for errors.
+Place PlaceOf(const XmlNode& node);
+
+}  // namespace praxen
+
+#endif  // PRAXEN_DESCRIBE_XML_READING_H_

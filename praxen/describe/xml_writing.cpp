@@ -1,0 +1,208 @@
+// The one walk that writes every described class.
+#include "praxen/describe/xml_writing.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "praxen/core/error.h"
+#include "praxen/core/library.h"
+#include "praxen/core/numbers.h"
+#include "praxen/describe/description.h"
+
+namespace praxen {
+
+namespace {
+
+template <class T>
+const T& As(const void* value) {
+  return *static_cast<const T*>(value);
+}
+
+bool IsEmpty(const Attribute& attribute, const void* value) {
+  return attribute.type.kind == ValueKind::Text && As<Text>(value).empty();
+}
+
+// Whether the value is that of a new object.
+bool IsCreationValue(const Attribute& attribute, const void* value) {
+  switch (attribute.type.kind) {
+    case ValueKind::Text:
+      return As<Text>(value) == attribute.creationText;
+    case ValueKind::Boolean:
+      return As<bool>(value) == (attribute.creationNumber != 0);
+    default:
+      return As<int32_t>(value) == attribute.creationNumber;
+  }
+}
+
+bool IsWritten(const Attribute& attribute, const void* value) {
+  switch (attribute.rule) {
+    case Rule::Required:
+    case Rule::Always:
+      return true;
+    case Rule::Optional:
+      return !IsCreationValue(attribute, value);
+    case Rule::UnlessEmpty:
+      return !IsEmpty(attribute, value);
+    case Rule::ReadOnly:
+      break;
+  }
+  return false;
+}
+
+template <class Consumer>
+void WithText(const Attribute& attribute, const void* value, Consumer consume) {
+  switch (attribute.type.kind) {
+    case ValueKind::Text:
+      return consume(As<Text>(value).view());
+    case ValueKind::Boolean:
+      return consume(As<bool>(value) ? std::u16string_view(u"1") : std::u16string_view(u"0"));
+    case ValueKind::Enumeration:
+      return consume(attribute.type.enumeration->ToText(As<int32_t>(value)));
+    case ValueKind::Double:
+      return consume(NumberText(As<double>(value)));
+    default:
+      return consume(NumberText(As<int32_t>(value)));
+  }
+}
+
+void RequireFields(Object& object, const Layout& layout) {
+  for (const Attribute& attribute : layout.attributes) {
+    if (attribute.rule == Rule::Required && IsEmpty(attribute, attribute.storage(object))) {
+      throw RequiredFieldsEmpty();
+    }
+  }
+}
+
+void WriteAttributes(Object& object, const Layout& layout, XMLStringWriter& writer) {
+  for (const Attribute& attribute : layout.attributes) {
+    const void* const value = attribute.storage(object);
+    if (!IsWritten(attribute, value)) continue;
+    WithText(attribute, value,
+             [&](std::u16string_view text) { writer.WriteAttributeString(attribute.name, text); });
+  }
+}
+
+// An element of our own classes is known by its class. Another, which a client made, is asked for
+// its kind: if it claims one of our classes without being of it, it cannot be written; if it claims
+// none, it is left out.
+bool IsOfChosenClass(const Object& element, const Layout& list) {
+  const ClassDescription& description = element.description();
+  const auto isClass = [&](const Choice& choice) { return &choice.object() == &description; };
+  if (std::ranges::any_of(list.elements, isClass)) return true;
+  for (const Choice& choice : list.elements) {
+    if (choice.isKind != nullptr && choice.isKind(element)) ThrowTypeMismatch();
+  }
+  return false;
+}
+
+void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) {
+  const bool mixed = !list.elements.empty() && list.elements.front().isKind != nullptr;
+  for (const Ref<Object>& element : *object.elements()) {
+    if (mixed && !IsOfChosenClass(*element, list)) continue;
+    element->WriteXML(writer);
+  }
+}
+
+void WriteText(const Child& child, const Text& value, XMLStringWriter& writer) {
+  if (value.empty() && !child.always) return;
+  if (child.kind == ChildKind::Content) return writer.WriteElementValue(value);
+  if (child.inner.empty()) {
+    return writer.WriteElementString(child.name,
+                                     child.writtenAs == nullptr ? value : child.writtenAs(value));
+  }
+  writer.WriteStartElement(child.name);
+  writer.WriteElementString(child.inner, value);
+  writer.WriteEndElement(child.name);
+}
+
+void WriteChild(Object& object, const Child& child, XMLStringWriter& writer) {
+  switch (child.kind) {
+    case ChildKind::Custom:
+      return child.writeXML(object, writer);
+    case ChildKind::Text:
+    case ChildKind::Content:
+      return WriteText(child, As<Text>(child.storage(object)), writer);
+    default:
+      break;
+  }
+  Object* const held = child.held(object);
+  if (held == nullptr) {
+    if (child.kind == ChildKind::Object) return;
+    ThrowMissingObject();
+  }
+  if (child.leaveOutEmpty && held->elements()->empty()) return;
+  held->WriteXML(writer);
+}
+
+}  // namespace
+
+void WriteStartTag(Object& object, std::u16string_view element, XMLStringWriter& writer) {
+  if (std::exchange(object.IsRoot, false)) {
+    writer.WriteStartRootElement(element);
+  } else {
+    writer.WriteStartElement(element);
+  }
+}
+
+void WriteElement(Object& object, const Layout& layout, XMLStringWriter& writer) {
+  const bool isList = !layout.elements.empty();
+  if (isList && layout.container != Container::Always && object.elements()->empty()) return;
+  const bool hasElement = !isList || layout.container != Container::None;
+  if (hasElement) {
+    RequireFields(object, layout);
+    WriteStartTag(object, layout.element, writer);
+    WriteAttributes(object, layout, writer);
+    for (const Child& child : layout.children) WriteChild(object, child, writer);
+  }
+  if (isList) WriteElements(object, layout, writer);
+  if (hasElement) writer.WriteEndElement(layout.element);
+}
+
+Text AttributeText(const Attribute& attribute, const void* value) {
+  Text text;
+  WithText(attribute, value, [&](std::u16string_view written) { text = written; });
+  return text;
+}
+
+Layout CompleteLayout(Layout layout, std::u16string element, Object& created) {
+  layout.element = std::move(element);
+  for (Attribute& attribute : layout.attributes) {
+    const void* const value = attribute.storage(created);
+    attribute.xmlName = InternXmlName(attribute.name);
+    attribute.creationText = AttributeText(attribute, value);
+    if (attribute.type.kind == ValueKind::Boolean) attribute.creationNumber = As<bool>(value);
+    if (attribute.type.kind == ValueKind::Integer ||
+        attribute.type.kind == ValueKind::Enumeration) {
+      attribute.creationNumber = As<int32_t>(value);
+    }
+  }
+  for (Child& child : layout.children) {
+    if (child.elementName != nullptr) child.name = child.elementName();
+    if (!child.name.empty()) child.xmlName = InternXmlName(child.name);
+  }
+  for (Choice& choice : layout.elements) choice.xmlName = InternXmlName(choice.elementName());
+  return layout;
+}
+
+void Object::WriteXML(XMLStringWriter& writer) {
+  // A client's own implementation of a kind has no element.
+  if (description().layout == nullptr) ThrowTypeMismatch();
+  WriteElement(*this, description().layout(), writer);
+}
+
+Text SerializableObject::Serialize() {
+  // A failed writing must not leave the object marked: it would be written as a root within its
+  // parent's next document.
+  struct RootMark {
+    explicit RootMark(Object& object) : object(object) { object.IsRoot = true; }
+    ~RootMark() { object.IsRoot = false; }
+    Object& object;
+  };
+  XMLStringWriter& writer = Library::Instance().writer();
+  writer.WriteStartDocument();
+  const RootMark mark(*this);
+  WriteXML(writer);
+  return writer.ToXMLString();
+}
+
+}  // namespace praxen

@@ -1,0 +1,23 @@
+// Writing of objects by their layouts.
+#ifndef PRAXEN_DESCRIBE_XML_WRITING_H_
+#define PRAXEN_DESCRIBE_XML_WRITING_H_
+
+#include "praxen/core/enumerations.h"
+#include "praxen/core/object.h"
+#include "praxen/core/xml_string_writer.h"
+#include "praxen/describe/layout.h"
+
+namespace praxen {
+
+/// Writes the element of an object whose class has that layout.
+void WriteElement(Object& object, const Layout& layout, XMLStringWriter& writer);
+
+/// The root or plain start tag of an object, as its `IsRoot` tells; clears `IsRoot`.
+void WriteStartTag(Object& object, std::u16string_view element, XMLStringWriter& writer);
+
+/// The value of an attribute as it is written.
+Text AttributeText(const Attribute& attribute, const void* value);
+
+}  // namespace praxen
+
+#endif  // PRAXEN_DESCRIBE_XML_WRITING_H_
