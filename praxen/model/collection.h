@@ -1,0 +1,226 @@
+// Collection, the pattern of every list of the model.
+#ifndef PRAXEN_MODEL_COLLECTION_H_
+#define PRAXEN_MODEL_COLLECTION_H_
+
+#include <cstdint>
+#include <type_traits>
+#include <vector>
+
+#include "praxen/core/error.h"
+#include "praxen/describe/creation.h"
+#include "praxen/describe/description.h"
+#include "praxen/describe/enumerator.h"
+
+namespace praxen {
+
+namespace collection_detail {
+
+/// The 0-based index of a 1-based position among `count`; raises `SubscriptOutOfRange`.
+size_t ToIndex(int32_t position, size_t count);
+/// Inserts before a position from 1 to the number of elements plus 1; raises `InvalidArgument`.
+void InsertBefore(std::vector<Ref<Object>>& elements, const Ref<Object>& element, int32_t position);
+int32_t CountOf(const std::vector<Ref<Object>>& elements);
+
+/// The property that `Find` compares: `Class::key` where a class states one, else its `Name`.
+template <class Element>
+concept StatesKey = requires {
+  Element::key();
+};
+template <class Element>
+concept HasKey = StatesKey<Element> || requires(const Element& element) {
+  Text(element.Name);
+} || requires(const Element& element) {
+  Text(element.Name());
+};
+
+template <HasKey Element>
+Text KeyOf(const Element& element) {
+  if constexpr (StatesKey<Element>) {
+    return element.*Element::key();
+  } else if constexpr (KindClass<Element>) {
+    return element.Name();
+  } else {
+    return element.Name;
+  }
+}
+
+template <class Element>
+concept HasForm = requires {
+  typename Element::Form;
+};
+template <class Element>
+concept HasLongForm = requires {
+  typename Element::LongForm;
+};
+
+}  // namespace collection_detail
+
+/// Walks a list in C++; reaching an empty reference raises `MissingObject`.
+template <class Element>
+class CollectionIterator {
+ public:
+  using value_type = Element;
+  using difference_type = std::ptrdiff_t;
+
+  CollectionIterator() = default;
+  explicit CollectionIterator(std::vector<Ref<Object>>::const_iterator place) : place_(place) {}
+  Element& operator*() const { return static_cast<Element&>(**place_); }
+  Element* operator->() const { return &**this; }
+  CollectionIterator& operator++() {
+    ++place_;
+    return *this;
+  }
+  CollectionIterator operator++(int) {
+    CollectionIterator before = *this;
+    ++place_;
+    return before;
+  }
+  friend bool operator==(const CollectionIterator&, const CollectionIterator&) = default;
+
+ private:
+  std::vector<Ref<Object>>::const_iterator place_;
+};
+
+/// An ordered list of shared references with 1-based positions.
+///
+/// The same element may stand in several places and lists; names need not be unique. Elements are
+/// neither copied nor checked. An empty reference may stand in a list, which then cannot be
+/// written. `Class` is the list's own class; it may give its layout and members anew.
+template <class Class, class Element, class Base = Object>
+class Collection : public Described<Class, Base> {
+ public:
+  void Add(const Ref<Element>& element) {
+    elements_.push_back(element);
+    ElementAdded(element.get());
+  }
+  /// Inserts before the element at `BeforeIndex`, which may be `Count` + 1; raises
+  /// `InvalidArgument` for another position.
+  void AddBefore(const Ref<Element>& element, int32_t BeforeIndex) {
+    collection_detail::InsertBefore(elements_, element, BeforeIndex);
+    ElementAdded(element.get());
+  }
+  /// Creates an element from the properties that its `Form` names, appends and returns it.
+  template <class... Arguments>
+  requires collection_detail::HasForm<Element> Ref<Element> Add1(const Arguments&... arguments) {
+    return Addition<Class, typename Element::Form>::Run(self(), arguments...);
+  }
+  /// The same with the properties of `LongForm`.
+  template <class... Arguments>
+  requires collection_detail::HasLongForm<Element> Ref<Element> Add2(
+      const Arguments&... arguments) {
+    return Addition<Class, typename Element::LongForm>::Run(self(), arguments...);
+  }
+  /// The first element of that name, compared exactly; an empty reference when there is none.
+  Ref<Element> Find(const Text& key) const requires collection_detail::HasKey<Element> {
+    const int32_t position = FindNr(key);
+    return position < 0 ? Ref<Element>() : Item(position);
+  }
+  /// The position of the first element of that name; -1 when there is none.
+  int32_t FindNr(const Text& key) const requires collection_detail::HasKey<Element> {
+    return PositionOf(
+        [&](const Element& element) { return collection_detail::KeyOf(element) == key; });
+  }
+  /// The element at a position from 1 to `Count`; raises `SubscriptOutOfRange` for another.
+  Ref<Element> Item(int32_t vntIndexKey) const {
+    const size_t index = collection_detail::ToIndex(vntIndexKey, elements_.size());
+    return static_cast<Element*>(elements_[index].get());
+  }
+  int32_t Count() const { return collection_detail::CountOf(elements_); }
+  /// Removes the element at a position; those behind it move up.
+  void Remove(int32_t vntIndexKey) {
+    const size_t index = collection_detail::ToIndex(vntIndexKey, elements_.size());
+    // The element may die with its reference, and must not find the list half changed then.
+    const Ref<Object> removed = elements_[index];
+    elements_.erase(elements_.begin() + static_cast<std::ptrdiff_t>(index));
+    ElementRemoved(removed.get());
+  }
+  /// An enumerator over the elements in list order.
+  Ref<Enumerator> NewEnum() const {
+    return new Enumerator(Ref<Object>(const_cast<Collection*>(this)));
+  }
+
+  using iterator = CollectionIterator<Element>;
+  iterator begin() const { return iterator(elements_.begin()); }
+  iterator end() const { return iterator(elements_.end()); }
+
+  const std::vector<Ref<Object>>* elements() const noexcept final { return &elements_; }
+  void Append(const Ref<Object>& element) final {
+    elements_.push_back(element);
+    ElementAdded(element.get());
+  }
+
+  /// What named arguments call an element that is added.
+  static constexpr std::string_view kArgument = TypeName<Element>();
+
+  static Members members() { return additions() + lookups() + positions(); }
+  static Layout layout() {
+    return {.elements = {choice<Element>()}, .container = Container::WhenNotEmpty};
+  }
+
+ protected:
+  /// The position of the first element that matches; -1 when there is none.
+  template <class Matches>
+  int32_t PositionOf(Matches matches) const {
+    for (size_t i = 0; i < elements_.size(); ++i) {
+      if (matches(static_cast<const Element&>(*elements_[i]))) return static_cast<int32_t>(i + 1);
+    }
+    return -1;
+  }
+
+  static Member add() { return method<&Class::Add>("Appends the element.", {Class::kArgument}); }
+  static Member addBefore() {
+    return method<&Class::AddBefore>(
+        "Inserts the element before the one at the position; Count + 1 appends.",
+        {Class::kArgument, "BeforeIndex"});
+  }
+  template <class Form>
+  static Member creation(std::string_view name) {
+    return creatingMember<Addition<Class, Form>, Form>(name);
+  }
+  static Members additions() {
+    Members members{add(), addBefore()};
+    if constexpr (collection_detail::HasForm<Element>) {
+      members.push_back(creation<typename Element::Form>("Add1"));
+    }
+    if constexpr (collection_detail::HasLongForm<Element>) {
+      members.push_back(creation<typename Element::LongForm>("Add2"));
+    }
+    return members;
+  }
+  static Members lookups() {
+    if constexpr (collection_detail::HasKey<Element>) {
+      std::string_view key = "Name";
+      if constexpr (collection_detail::StatesKey<Element>) key = EntityName<Element::key()>();
+      return {
+          method<&Class::Find>("The first element of that name, or nothing.", {key}),
+          method<&Class::FindNr>("The position of the first element of that name, or -1.", {key})};
+    } else {
+      return {};
+    }
+  }
+  static Member item() {
+    return WithId(
+        computed<&Class::Item>("The element at a position from 1 to Count.", {"vntIndexKey"}),
+        kDefaultMemberId);
+  }
+  static Members positions() {
+    return {item(), computed<&Class::Count>("The number of elements."),
+            method<&Class::Remove>("Removes the element at a position.", {"vntIndexKey"}),
+            WithId(computed<&Class::NewEnum>("An enumerator over the elements in list order."),
+                   kEnumeratorId)};
+  }
+
+ private:
+  /// What a list that keeps track of its elements does after each change; null is an empty
+  /// reference.
+  virtual void ElementAdded(Object*) noexcept {}
+  virtual void ElementRemoved(Object*) noexcept {}
+
+  Class& self() { return static_cast<Class&>(*this); }
+
+  std::vector<Ref<Object>> elements_;
+};
+
+}  // namespace praxen
+
+#endif  // PRAXEN_MODEL_COLLECTION_H_

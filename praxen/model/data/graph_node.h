@@ -1,0 +1,40 @@
+// GraphNode, a named point of a variable or parameter, and the list of them.
+#ifndef PRAXEN_MODEL_DATA_GRAPH_NODE_H_
+#define PRAXEN_MODEL_DATA_GRAPH_NODE_H_
+
+#include "praxen/model/collection.h"
+
+namespace praxen {
+
+class GraphNode final : public Described<GraphNode> {
+ public:
+  Text Name;
+  double X = 0, Y = 0;
+
+  static constexpr std::string_view kHelp = "A named point of a variable or parameter.";
+  static Members members() {
+    return {property<&GraphNode::Name>("Name of the node."),
+            property<&GraphNode::X>("Horizontal coordinate."),
+            property<&GraphNode::Y>("Vertical coordinate.")};
+  }
+  static Layout layout() {
+    return {.attributes = {always<&GraphNode::Name>(), always<&GraphNode::X>(),
+                           always<&GraphNode::Y>()}};
+  }
+  using Form = Creation<GraphNode, &GraphNode::Name, &GraphNode::X, &GraphNode::Y>;
+};
+
+class GraphNodes final : public Collection<GraphNodes, GraphNode> {
+ public:
+  static constexpr std::string_view kHelp = "The graph nodes of a variable or parameter.";
+  static Layout layout() {
+    return {.elements = {choice<GraphNode>()}, .container = Container::None};
+  }
+};
+
+extern template const ClassDescription& Describe<GraphNode>();
+extern template const ClassDescription& Describe<GraphNodes>();
+
+}  // namespace praxen
+
+#endif  // PRAXEN_MODEL_DATA_GRAPH_NODE_H_

@@ -1,0 +1,21 @@
+// The descriptions of InitValue and InitValues.
+#include "praxen/model/data/init_value.h"
+
+#include "praxen/describe/define.h"
+
+namespace praxen {
+
+template const ClassDescription& Describe<InitValue>();
+template const ClassDescription& Describe<InitValues>();
+
+Ref<InitValue> InitValues::Find(const Text& POUPath, const Text& Name) const {
+  const int32_t position = FindNr(POUPath, Name);
+  return position < 0 ? Ref<InitValue>() : Item(position);
+}
+
+int32_t InitValues::FindNr(const Text& POUPath, const Text& Name) const {
+  return PositionOf(
+      [&](const InitValue& value) { return value.POUPath == POUPath && value.Name == Name; });
+}
+
+}  // namespace praxen

@@ -1,0 +1,16 @@
+#include "praxen/model/maintenance.h"
+
+#include "praxen/core/library.h"
+#include "praxen/describe/define.h"
+
+namespace praxen {
+
+int32_t maintenance::NrOfObjects() const { return ObjectCounter(); }
+
+bool maintenance::GetIncludeCRLFInXML() const { return IncludeCRLFInXML(); }
+
+void maintenance::SetIncludeCRLFInXML(const bool& include) { praxen::SetIncludeCRLFInXML(include); }
+
+template const ClassDescription& Describe<maintenance>();
+
+}  // namespace praxen
