@@ -1,0 +1,27 @@
+// The diagram of an FDCodeBlock as markup.
+#include "praxen/model/pou/fd_code_block.h"
+
+#include "praxen/core/xml_string_writer.h"
+#include "praxen/describe/define.h"
+#include "praxen/platform/xml_document.h"
+
+namespace praxen {
+
+Layout FDCodeBlock::layout() {
+  Child diagram = custom<&FDCodeBlock::WriteDiagram, &FDCodeBlock::ReadDiagram>(
+      "The element of the function diagram, of any name and content.", {});
+  diagram.isMarkup = true;
+  return {.attributes = {required<&FDCodeBlock::Name>()}, .children = {diagram}};
+}
+
+void FDCodeBlock::WriteDiagram(XMLStringWriter& writer) { writer.WriteXMLElementValue(FDAsXMLStr); }
+
+void FDCodeBlock::ReadDiagram(XmlNode& cursor) {
+  if (!cursor) return;
+  FDAsXMLStr = cursor.xml();
+  cursor = cursor.nextSibling();
+}
+
+template const ClassDescription& Describe<FDCodeBlock>();
+
+}  // namespace praxen

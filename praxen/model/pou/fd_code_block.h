@@ -1,0 +1,32 @@
+// FDCodeBlock, a code block that holds a function diagram as markup.
+#ifndef PRAXEN_MODEL_POU_FD_CODE_BLOCK_H_
+#define PRAXEN_MODEL_POU_FD_CODE_BLOCK_H_
+
+#include "praxen/model/pou/code_block.h"
+
+namespace praxen {
+
+class FDCodeBlock final : public CodeBlock<FDCodeBlock> {
+ public:
+  Text Name;
+  /// One element with its content; written as it is, whether it is well-formed or not.
+  Text FDAsXMLStr = u"<FunctionDiagram/>"_text;
+
+  static constexpr std::string_view kHelp = "A code block that holds a function diagram.";
+  static Members members() {
+    return {property<&FDCodeBlock::Name>("Name of the code block; required for writing."),
+            propertyPutFirst<&FDCodeBlock::FDAsXMLStr>("The diagram as one XML element."),
+            serialize()};
+  }
+  static Layout layout();
+
+ private:
+  void WriteDiagram(XMLStringWriter& writer);
+  void ReadDiagram(XmlNode& cursor);
+};
+
+extern template const ClassDescription& Describe<FDCodeBlock>();
+
+}  // namespace praxen
+
+#endif  // PRAXEN_MODEL_POU_FD_CODE_BLOCK_H_

@@ -1,0 +1,31 @@
+// GraphSize, the size of a control module type's graphics.
+#ifndef PRAXEN_MODEL_POU_GRAPH_SIZE_H_
+#define PRAXEN_MODEL_POU_GRAPH_SIZE_H_
+
+#include "praxen/model/pou/point.h"
+
+namespace praxen {
+
+class GraphSize final : public Described<GraphSize> {
+ public:
+  Ref<Point> LowerLeft = Point::Form()(-1, -1);
+  Ref<Point> UpperRight = Point::Form()(1, 1);
+
+  static constexpr std::string_view kHelp = "The size of a control module type's graphics.";
+  static Members members() {
+    return {
+        property<&GraphSize::LowerLeft>("Lower left corner; required for writing."),
+        property<&GraphSize::UpperRight>("Upper right corner; required for writing."),
+    };
+  }
+  static Layout layout() {
+    return {.children = {unnamed<&GraphSize::LowerLeft>(), unnamed<&GraphSize::UpperRight>()}};
+  }
+  using Form = Creation<GraphSize, &GraphSize::LowerLeft, &GraphSize::UpperRight>;
+};
+
+extern template const ClassDescription& Describe<GraphSize>();
+
+}  // namespace praxen
+
+#endif  // PRAXEN_MODEL_POU_GRAPH_SIZE_H_

@@ -1,0 +1,10 @@
+// The description of SingleControlModuleInst.
+#include "praxen/model/pou/single_control_module_inst.h"
+
+#include "praxen/describe/define.h"
+
+namespace praxen {
+
+template const ClassDescription& Describe<SingleControlModuleInst>();
+
+}  // namespace praxen

@@ -1,0 +1,10 @@
+// The description of SingleControlModuleType.
+#include "praxen/model/pou/single_control_module_type.h"
+
+#include "praxen/describe/define.h"
+
+namespace praxen {
+
+template const ClassDescription& Describe<SingleControlModuleType>();
+
+}  // namespace praxen
