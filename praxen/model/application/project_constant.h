@@ -1,0 +1,68 @@
+// ProjectConstant, a value that the whole project can use, and the list of them.
+#ifndef PRAXEN_MODEL_APPLICATION_PROJECT_CONSTANT_H_
+#define PRAXEN_MODEL_APPLICATION_PROJECT_CONSTANT_H_
+
+#include <memory>
+
+#include "praxen/model/application/constant_name.h"
+#include "praxen/model/collection.h"
+
+namespace praxen {
+
+class ProjectConstant final : public Described<ProjectConstant> {
+ public:
+  /// Dots separate the levels of groups, as in "Motor.Speed.Max".
+  ConstantName Name;
+  Text PCType = u"dint"_text;
+  Text Value = u"0"_text;
+
+  Text GetName() const { return Name; }
+  void SetName(const Text& name) { Name = name; }
+
+  static constexpr std::string_view kHelp = "A value that the whole project can use.";
+  static Members members() {
+    return {accessors<&ProjectConstant::GetName, &ProjectConstant::SetName>(
+                EntityName<&ProjectConstant::Name>(), "Name with its groups, separated by dots."),
+            property<&ProjectConstant::PCType>("Data type."),
+            property<&ProjectConstant::Value>("Value as text.")};
+  }
+  using Form = Creation<ProjectConstant, asText<&ProjectConstant::Name>, &ProjectConstant::PCType,
+                        &ProjectConstant::Value>;
+};
+
+/// Written as a tree of groups.
+class ProjectConstants final
+    : public Collection<ProjectConstants, ProjectConstant, SerializableObject> {
+ public:
+  ~ProjectConstants() override;
+
+  /// Creates and appends a constant; raises `NameConflict` when its name equals that of a constant
+  /// of the list or when one of the two is a dotted prefix of the other. The other additions do not
+  /// test the name.
+  Ref<ProjectConstant> Add1(const Text& Name, const Text& PCType, const Text& Value);
+
+  static constexpr std::string_view kHelp = "Project constants, in order.";
+  static Members members();
+  static Layout layout();
+
+ private:
+  void WriteTree(XMLStringWriter& writer);
+  void ReadTree(XmlNode& cursor);
+
+  void RequireFreeName(const Text& name);
+  /// Indexes the constants; `name` is the one that is about to be tested.
+  void IndexNames(const Text& name);
+  void DropIndex() noexcept;
+  void ElementAdded(Object* element) noexcept override;
+  void ElementRemoved(Object* element) noexcept override;
+
+  // The names of all constants; none before the first `Add1`, and while a reference is empty.
+  std::unique_ptr<DottedNameIndex> names_;
+};
+
+extern template const ClassDescription& Describe<ProjectConstant>();
+extern template const ClassDescription& Describe<ProjectConstants>();
+
+}  // namespace praxen
+
+#endif  // PRAXEN_MODEL_APPLICATION_PROJECT_CONSTANT_H_

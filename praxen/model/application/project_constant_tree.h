@@ -1,0 +1,75 @@
+// The tree of project constants, which exists while a list of them is written or read.
+#ifndef PRAXEN_MODEL_APPLICATION_PROJECT_CONSTANT_TREE_H_
+#define PRAXEN_MODEL_APPLICATION_PROJECT_CONSTANT_TREE_H_
+
+#include <cstddef>
+#include <deque>
+#include <string_view>
+#include <unordered_map>
+
+#include "praxen/core/library.h"
+#include "praxen/model/application/project_constant.h"
+#include "praxen/platform/xml_document.h"
+
+namespace praxen {
+
+class XMLStringWriter;
+
+/// An entry of a level of the tree: a constant, or a group when it has a level below. The first
+/// entry stands for its level, and is unused until the level is given a name.
+struct intProjectConstant {
+  intProjectConstant() { CountObject(); }
+  intProjectConstant(const intProjectConstant&) = delete;
+  intProjectConstant& operator=(const intProjectConstant&) = delete;
+  ~intProjectConstant() { UncountObject(); }
+
+  /// One segment of a dotted name.
+  std::u16string_view Name;
+  Text Type, Value;
+  bool IsUnused = true;
+  /// The first entry of the level below.
+  intProjectConstant* SubLevel = nullptr;
+  /// The group whose level the entry stands on; null on the top level.
+  intProjectConstant* group = nullptr;
+  intProjectConstant* nextSibling = nullptr;
+  /// Of the first entry of a level.
+  intProjectConstant* lastSibling = this;
+};
+
+/// Converts between the list of constants with dotted names and the nested elements. Takes time in
+/// proportion to the names, and no more stack for deep groups when writing.
+class intProjectConstants {
+ public:
+  intProjectConstants() { CountObject(); }
+  intProjectConstants(const intProjectConstants&) = delete;
+  intProjectConstants& operator=(const intProjectConstants&) = delete;
+  ~intProjectConstants() { UncountObject(); }
+
+  /// Writes the elements of the top level; nothing for an empty list. Of several constants of one
+  /// name only the first is written, and of one whose name is also a group only the group. Raises
+  /// `NestedTooDeep` beyond `kDeepestNesting` elements. The list does not change meanwhile.
+  void Write(XMLStringWriter& writer, const ProjectConstants& list);
+  /// Appends the constants of the elements from `first` on, depth first. Raises `Overflow` when
+  /// their dotted names have more than `kMostNameCharacters` characters together.
+  void Read(XmlNode first, ProjectConstants& list);
+
+  /// Bounds what a document of short names in groups of long names takes.
+  static constexpr size_t kMostNameCharacters = size_t{1} << 28;
+
+ private:
+  intProjectConstant& NewLevel(intProjectConstant* group);
+  intProjectConstant& NewEntry(intProjectConstant& level, std::u16string_view name);
+  void AddRecursive(intProjectConstant& level, std::u16string_view name, const Text& type,
+                    const Text& value);
+  void ReadLevel(XmlNode node, ProjectConstants& list, const Text& prefix);
+  void ReadConstant(const Text& name, const XmlNode& node, ProjectConstants& list);
+
+  std::deque<intProjectConstant> entries_;
+  /// The entries by their level's first entry and their name.
+  std::unordered_map<NameSegment, intProjectConstant*, NameSegmentHash> places_;
+  size_t name_characters_ = 0;
+};
+
+}  // namespace praxen
+
+#endif  // PRAXEN_MODEL_APPLICATION_PROJECT_CONSTANT_TREE_H_

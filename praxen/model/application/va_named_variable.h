@@ -1,0 +1,33 @@
+// VANamedVariable, a variable that is published under a name.
+#ifndef PRAXEN_MODEL_APPLICATION_VA_NAMED_VARIABLE_H_
+#define PRAXEN_MODEL_APPLICATION_VA_NAMED_VARIABLE_H_
+
+#include "praxen/model/application/va_variable.h"
+
+namespace praxen {
+
+class VANamedVariable final : public VAVariable<VANamedVariable> {
+ public:
+  Text VAAttribute;
+
+  static constexpr std::string_view kHelp = "A variable that is published under a name.";
+  static Members members() {
+    Members members = VAVariable::members();
+    members.insert(members.begin() + 2, property<&VANamedVariable::VAAttribute>(
+                                            "Attribute such as that of reading only."));
+    return members;
+  }
+  static Layout layout() {
+    Layout layout = VAVariable::layout();
+    layout.attributes.insert(layout.attributes.begin() + 2,
+                             optional<&VANamedVariable::VAAttribute>(u"Attribute"));
+    return layout;
+  }
+  using LongForm = Extended<Form, &VANamedVariable::VAAttribute, &VANamedVariable::Row>;
+};
+
+extern template const ClassDescription& Describe<VANamedVariable>();
+
+}  // namespace praxen
+
+#endif  // PRAXEN_MODEL_APPLICATION_VA_NAMED_VARIABLE_H_

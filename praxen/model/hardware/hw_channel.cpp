@@ -1,0 +1,49 @@
+// The connected variable of a channel, whose element also tells whether it is a signal.
+#include "praxen/model/hardware/hw_channel.h"
+
+#include "praxen/core/xml_string_writer.h"
+#include "praxen/describe/define.h"
+#include "praxen/describe/xml_reading.h"
+
+namespace praxen {
+
+namespace {
+
+constexpr std::u16string_view kConnection = u"ConVariable";
+constexpr std::u16string_view kIsSignal = u"Signal";
+
+}  // namespace
+
+Layout HWChannel::layout() {
+  Child description = strictText<&HWChannel::IODescription>();
+  description.always = true;
+  return {.attributes = {required<&HWChannel::Address>(), required<&HWChannel::Name>(),
+                         readOnly<&HWChannel::ChannelType>(), optional<&HWChannel::Min>(),
+                         optional<&HWChannel::Max>(), optional<&HWChannel::Unit>(),
+                         optional<&HWChannel::Fraction>(), optional<&HWChannel::Reversed>()},
+          .children = {custom<&HWChannel::WriteConnection, &HWChannel::ReadConnection>(
+                           "The connected variable, and whether it is a signal.",
+                           {{std::u16string(kConnection),
+                             ElementShape::Content::Text,
+                             {std::u16string(kIsSignal)}}}),
+                       description}};
+}
+
+void HWChannel::WriteConnection(XMLStringWriter& writer) {
+  writer.WriteStartElement(kConnection);
+  writer.WriteAttributeString(kIsSignal, IsSignal ? u"1" : u"0");
+  writer.WriteElementValue(ConVariable);
+  writer.WriteEndElement(kConnection);
+}
+
+void HWChannel::ReadConnection(XmlNode& cursor) {
+  if (cursor.nodeName() != kConnection) return;
+  IsSignal = ReadBoolAttribute(cursor, kIsSignal);
+  ConVariable = ReadTextElement(cursor, kConnection);
+  cursor = cursor.nextSibling();
+}
+
+template const ClassDescription& Describe<HWChannel>();
+template const ClassDescription& Describe<HWChannels>();
+
+}  // namespace praxen

@@ -1,0 +1,44 @@
+// ParameterSetting, the value of a parameter of a hardware unit, and the list of them.
+#ifndef PRAXEN_MODEL_HARDWARE_PARAMETER_SETTING_H_
+#define PRAXEN_MODEL_HARDWARE_PARAMETER_SETTING_H_
+
+#include "praxen/model/collection.h"
+
+namespace praxen {
+
+class ParameterSetting final : public Described<ParameterSetting> {
+ public:
+  Text Name, ParameterValue;
+  ReadOnly<Text> Description;
+
+  static constexpr std::string_view kHelp = "The value of a parameter of a hardware unit.";
+  static Members members() {
+    return {property<&ParameterSetting::Name>("Name of the parameter; required for writing."),
+            property<&ParameterSetting::ParameterValue>("Value of the parameter."),
+            property<&ParameterSetting::Description>(
+                "Meaning of the parameter, as the engineering tool tells it.")};
+  }
+  static Layout layout() {
+    return {.attributes = {required<&ParameterSetting::Name>(),
+                           always<&ParameterSetting::ParameterValue>(u"Value"),
+                           readOnly<&ParameterSetting::Description>()}};
+  }
+  using Form =
+      Creation<ParameterSetting, &ParameterSetting::Name, &ParameterSetting::ParameterValue>;
+};
+
+class ParameterSettings final : public Collection<ParameterSettings, ParameterSetting> {
+ public:
+  static constexpr std::string_view kHelp = "The parameter settings of a hardware unit, in order.";
+  static constexpr std::string_view kArgument = "par";
+  static Members members() {
+    return Members{add(), creation<ParameterSetting::Form>("Add1")} + lookups() + positions();
+  }
+};
+
+extern template const ClassDescription& Describe<ParameterSetting>();
+extern template const ClassDescription& Describe<ParameterSettings>();
+
+}  // namespace praxen
+
+#endif  // PRAXEN_MODEL_HARDWARE_PARAMETER_SETTING_H_

@@ -1,0 +1,34 @@
+// The members of MessageBucket, and the descriptions of the messages.
+#include "praxen/model/messages/message_bucket.h"
+
+#include "praxen/describe/define.h"
+
+namespace praxen {
+
+Members MessageBucket::members() {
+  return Members{property<&MessageBucket::NoOfErrors>("Number of errors, as reported."),
+                 property<&MessageBucket::NoOfWarnings>("Number of warnings, as reported."),
+                 serialize(), add()} +
+         positions();
+}
+
+Layout MessageBucket::layout() {
+  return {
+      .attributes = {always<&MessageBucket::NoOfErrors>(), always<&MessageBucket::NoOfWarnings>()},
+      .elements = {choice<ErrorMsg, IMsg, &IMsg::IsErrorMsg>(),
+                   choice<WarningMsg, IMsg, &IMsg::IsWarningMsg>(),
+                   choice<InfoMsg, IMsg, &IMsg::IsInfoMsg>(),
+                   choice<FindMsg, IMsg, &IMsg::IsFindMsg>()},
+      .container = Container::Always};
+}
+
+template const ClassDescription& Describe<IMsg>();
+template const ClassDescription& Describe<ErrorMsg>();
+template const ClassDescription& Describe<WarningMsg>();
+template const ClassDescription& Describe<InfoMsg>();
+template const ClassDescription& Describe<FindMsg>();
+template const ClassDescription& Describe<PosInfo>();
+template const ClassDescription& Describe<ExtraInfo>();
+template const ClassDescription& Describe<MessageBucket>();
+
+}  // namespace praxen
