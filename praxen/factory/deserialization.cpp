@@ -1,0 +1,35 @@
+// Reading of a whole document.
+#include "praxen/factory/deserialization.h"
+
+#include <array>
+
+#include "praxen/core/error.h"
+#include "praxen/factory/reading_frame.h"
+#include "praxen/model/model.h"
+
+namespace praxen {
+
+Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr) {
+  const Text kept = XMLStr;  // The nodes refer to its characters.
+  const auto document = LoadXMLDocument(kept, description.layout().element);
+  Ref<Object> object = description.create();
+  object->ReadXML(document->root());
+  return object;
+}
+
+Ref<ICodeBlock> CodeBlockDeserialization::operator()(const Text& XMLStr) const {
+  const Text kept = XMLStr;
+  const LoadedDocument document(kept);
+  static const std::array<Choice, 6> languages{choice<FBDCodeBlock>(), choice<ILCodeBlock>(),
+                                               choice<LDCodeBlock>(),  choice<SFCCodeBlock>(),
+                                               choice<STCodeBlock>(),  choice<FDCodeBlock>()};
+  for (const Choice& language : languages) {
+    if (!document.IsRoot(language.elementName())) continue;
+    const Ref<Object> block = language.create();
+    block->ReadXML(document.root());
+    return Cast<ICodeBlock>(block);
+  }
+  throw WrongRootElement().At(document.root().position());
+}
+
+}  // namespace praxen

@@ -1,0 +1,44 @@
+// Reading operations, each described by the class that it reads.
+#ifndef PRAXEN_FACTORY_DESERIALIZATION_H_
+#define PRAXEN_FACTORY_DESERIALIZATION_H_
+
+#include <string_view>
+#include <vector>
+
+#include "praxen/core/object.h"
+#include "praxen/describe/description.h"
+#include "praxen/model/pou/code_block.h"
+
+namespace praxen {
+
+/// Creates an object of a described class and reads it from a document whose root is its element.
+Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr);
+
+/// Reads a document of `Class`. Raises `InvalidXml` for a text that does not parse or validate,
+/// `WrongRootElement` for the document of another class, and what reading its contents raises.
+template <class Class>
+struct Deserialization {
+  static constexpr uint32_t kByReference = 1;
+
+  Ref<Class> operator()(const Text& XMLStr) const {
+    return static_cast<Class*>(DeserializeObject(Describe<Class>(), XMLStr).get());
+  }
+
+  static std::vector<std::string_view> ParameterNames() { return {"XMLStr"}; }
+  static std::string_view Help() { return "Reads the object from an XML document."; }
+};
+
+/// Reads a code block of any language, as its root element tells; raises `WrongRootElement` for the
+/// document of anything else.
+struct CodeBlockDeserialization {
+  static constexpr uint32_t kByReference = 1;
+
+  Ref<ICodeBlock> operator()(const Text& XMLStr) const;
+
+  static std::vector<std::string_view> ParameterNames() { return {"XMLStr"}; }
+  static std::string_view Help() { return "Reads a code block of any language."; }
+};
+
+}  // namespace praxen
+
+#endif  // PRAXEN_FACTORY_DESERIALIZATION_H_

@@ -1,0 +1,14 @@
+// The copy of the schema that is compiled into the library.
+#ifndef PRAXEN_FACTORY_EMBEDDED_SCHEMA_H_
+#define PRAXEN_FACTORY_EMBEDDED_SCHEMA_H_
+
+#include <string_view>
+
+namespace praxen {
+
+/// The bytes of the shipped "PraxenSchema3_0.xsd".
+std::string_view EmbeddedSchema();
+
+}  // namespace praxen
+
+#endif  // PRAXEN_FACTORY_EMBEDDED_SCHEMA_H_

@@ -1,0 +1,80 @@
+// Where the schema is found, and how a text is loaded and checked.
+#include "praxen/factory/reading_frame.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "praxen/core/error.h"
+#include "praxen/core/library.h"
+#include "praxen/factory/embedded_schema.h"
+#include "praxen/platform/module_folder.h"
+
+namespace praxen {
+
+namespace {
+
+constexpr std::u16string_view kNamespace = u"PraxenSchema3_0";
+constexpr const char* kSchemaFile = "PraxenSchema3_0.xsd";
+
+// The schema file, or an empty path when only the library's own copy is there.
+std::filesystem::path FindSchema() {
+  std::error_code error;
+  const std::filesystem::path beside = ModuleFolder();
+  for (const auto& folder : {std::filesystem::current_path(error), beside,
+                             (beside / PRAXEN_DATA_FOLDER).lexically_normal()}) {
+    const std::filesystem::path file = folder / kSchemaFile;
+    if (std::filesystem::is_regular_file(file, error)) return file;
+  }
+  return {};
+}
+
+XmlSchemaSource ReadSchema(const std::filesystem::path& file) {
+  XmlSchemaSource source{std::u16string(kNamespace), std::string(EmbeddedSchema()), kSchemaFile};
+  if (file.empty()) return source;
+  std::ifstream stream(file, std::ios::binary);
+  source.content.assign(std::istreambuf_iterator<char>(stream), {});
+  source.systemId = file.string();
+  return source;
+}
+
+}  // namespace
+
+std::unique_ptr<XmlDocument> InitXMLReader() {
+  return std::make_unique<XmlDocument>([file = FindSchema()] { return ReadSchema(file); });
+}
+
+XmlDocument& GetReaderDocument() { return Library::Instance().readerDocument(); }
+
+LoadedDocument::LoadedDocument(const Text& XMLStr) {
+  XmlDocument& document = GetReaderDocument();
+  if (document.loadXML(XMLStr)) return;
+  const XmlParseError error = document.parseError();
+  document.clear();
+  throw InvalidXml(error.reason, error.position);
+}
+
+LoadedDocument::~LoadedDocument() { GetReaderDocument().clear(); }
+
+XmlNode LoadedDocument::root() const { return GetReaderDocument().documentElement(); }
+
+bool LoadedDocument::IsRoot(std::u16string_view name) const {
+  if (root().nodeName() != name) return false;
+  if (GetReaderDocument().rootDeclared()) return true;
+  const XmlParseError error =
+      MakeXmlError(u"The element \"" + std::u16string(name) + u"\" is not in the namespace \"" +
+                       std::u16string(kNamespace) + u"\".",
+                   root().position());
+  throw InvalidXml(error.reason, error.position);
+}
+
+std::unique_ptr<LoadedDocument> LoadXMLDocument(const Text& XMLStr, std::u16string_view RootName) {
+  auto document = std::make_unique<LoadedDocument>(XMLStr);
+  if (!document->IsRoot(RootName)) {
+    throw WrongRootElement().At(document->root().position());
+  }
+  return document;
+}
+
+}  // namespace praxen

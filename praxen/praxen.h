@@ -1,0 +1,11 @@
+// Everything that a C++ client of the library needs.
+#ifndef PRAXEN_PRAXEN_H_
+#define PRAXEN_PRAXEN_H_
+
+#include "praxen/core/error.h"
+#include "praxen/core/library.h"
+#include "praxen/factory/object_factory.h"
+#include "praxen/model/maintenance.h"
+#include "praxen/model/model.h"
+
+#endif  // PRAXEN_PRAXEN_H_
