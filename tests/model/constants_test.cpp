@@ -1,0 +1,156 @@
+// Project constants: the conflict rule of Add1 and the tree that they are written as.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "praxen/core/text_functions.h"
+#include "praxen/praxen.h"
+#include "tests/support/documents.h"
+
+namespace praxen {
+namespace {
+
+constexpr const char* kConflict = "607 Name is in conflict with an existing name";
+
+std::string Add(ProjectConstants& list, const char16_t* name) {
+  return ErrorOf([&] { list.Add1(name, u"dint", u"1"); });
+}
+
+TEST(ProjectConstants, RefuseNamesInConflict) {
+  struct Case {
+    const char16_t *existing, *added;
+    bool isFree;
+  };
+  const Case cases[] = {
+      {u"A.B", u"A.B", false}, {u"A.B", u"A", false}, {u"A.B", u"A.B.C", false},
+      {u"A.B", u"A.C", true},  {u"A.B", u"AB", true}, {u"A.B", u"B", true},
+      {u"A.B", u"a.b", true},  {u"A", u"A.B", false}, {u"A.B", u"", false},
+      {u"", u"A", false},      {u"A.", u"A", false},  {u"A.", u"A.B", false},
+      {u".A", u".B", true},    {u".A", u"A", true},   {u"A..B", u"A.B", true},
+  };
+  for (const Case& test : cases) {
+    const auto list = New<ProjectConstants>();
+    list->Add(ObjectFactory::NewProjectConstant(test.existing, u"dint", u"1"));
+    EXPECT_EQ(Add(*list, test.added), test.isFree ? "none" : kConflict)
+        << ToUtf8(test.existing) << " " << ToUtf8(test.added);
+    EXPECT_EQ(list->Count(), test.isFree ? 2 : 1);
+  }
+}
+
+TEST(ProjectConstants, FollowWhatTheListHoldsNow) {
+  const auto list = New<ProjectConstants>();
+  const auto constant = list->Add1(u"A.B", u"dint", u"1");
+  EXPECT_EQ(Add(*list, u"A"), kConflict);
+  constant->Name = u"C";
+  EXPECT_EQ(Add(*list, u"A"), "none");
+  EXPECT_EQ(Add(*list, u"C.D"), kConflict);
+  list->Remove(1);
+  EXPECT_EQ(Add(*list, u"C.D"), "none");
+  constant->Name = u"A.X";  // no longer in the list
+  EXPECT_EQ(Add(*list, u"A.X"), kConflict);
+  list->Remove(1);
+  EXPECT_EQ(Add(*list, u"A.X"), "none");
+}
+
+// The rule, spelled out over all constants.
+bool IsFree(const ProjectConstants& list, std::u16string_view name) {
+  for (const ProjectConstant& constant : list) {
+    const Text existing(constant.Name);
+    std::u16string_view a = name, b = existing;
+    bool conflict = true;
+    while (!a.empty() && !b.empty() && conflict) {
+      conflict = TextBeforeFirstDot(a) == TextBeforeFirstDot(b);
+      a = TextAfterFirstDot(a);
+      b = TextAfterFirstDot(b);
+    }
+    if (conflict) return false;
+  }
+  return true;
+}
+
+TEST(ProjectConstants, AgreeWithTheRuleOnAnyHistory) {
+  std::mt19937 random(3);
+  const auto pick = [&](uint32_t below) { return static_cast<int32_t>(random() % below); };
+  const auto name = [&] {
+    std::u16string text;
+    for (int32_t parts = pick(4); parts >= 0; --parts) {
+      text += static_cast<char16_t>(u'A' + pick(3));
+      if (parts > 0) text += u'.';
+    }
+    return text;
+  };
+  const auto list = New<ProjectConstants>();
+  for (int step = 0; step < 5000; ++step) {
+    const std::u16string text = name();
+    const int32_t count = list->Count();
+    switch (pick(6)) {
+      case 0:
+        list->Add(ObjectFactory::NewProjectConstant(text, u"dint", u"1"));
+        break;
+      case 1:
+        if (count > 0) list->Remove(1 + pick(static_cast<uint32_t>(count)));
+        break;
+      case 2:
+        if (count > 0) list->Item(1 + pick(static_cast<uint32_t>(count)))->Name = text;
+        break;
+      default: {
+        const bool isFree = IsFree(*list, text);
+        const bool added = ErrorOf([&] { list->Add1(text, u"dint", u"1"); }) == "none";
+        ASSERT_EQ(added, isFree) << "step " << step << " " << ToUtf8(text);
+      }
+    }
+    if (list->Count() > 12) list->Remove(1);
+  }
+}
+
+std::string Leaf(const std::string& name, const std::string& value) {
+  return "<ProjectConstant Name='" + name + "'><Type>dint</Type><Value>" + value +
+         "</Value></ProjectConstant>";
+}
+
+std::string Group(const std::string& name, const std::string& members) {
+  return "<ProjectConstant Name='" + name + "'><ProjectConstants>" + members +
+         "</ProjectConstants></ProjectConstant>";
+}
+
+TEST(ProjectConstants, AreWrittenAsATree) {
+  struct Case {
+    std::vector<const char16_t*> names;
+    std::string members;
+  };
+  const Case cases[] = {
+      {{u"K"}, Leaf("K", "1")},
+      {{u"A.B", u"C", u"A.D"}, Group("A", Leaf("B", "1") + Leaf("D", "3")) + Leaf("C", "2")},
+      {{u"M.S.X", u"M.S.Y"}, Group("M", Group("S", Leaf("X", "1") + Leaf("Y", "2")))},
+      {{u"A", u"A"}, Leaf("A", "1")},
+      {{u"A", u"A.B"}, Group("A", Leaf("B", "2"))},
+      {{u"A.B", u"A"}, Group("A", Leaf("B", "1"))},
+  };
+  for (const Case& test : cases) {
+    const auto list = New<ProjectConstants>();
+    int32_t value = 0;
+    for (const char16_t* const name : test.names) {
+      list->Add(
+          ObjectFactory::NewProjectConstant(name, u"dint", FromUtf8(std::to_string(++value))));
+    }
+    EXPECT_EQ(Markup(*list), "<ProjectConstants>" + test.members + "</ProjectConstants>");
+  }
+  const auto read = ObjectFactory::DeserializeProjectConstants(
+      Document("<ProjectConstants>" + cases[1].members + "</ProjectConstants>"));
+  std::string names;
+  for (const ProjectConstant& constant : *read) names += ToUtf8(Text(constant.Name)) + " ";
+  EXPECT_EQ(names, "A.B A.D C ");
+}
+
+TEST(ProjectConstants, NeedTypeAndValueWhenRead) {
+  for (const char* const child : {"", "<Type>dint</Type>", "<Type/><Value>1</Value>",
+                                  "<Type>dint</Type><Value/>", "<ProjectConstants/>"}) {
+    const std::string document = "<ProjectConstants><ProjectConstant Name='A'>" +
+                                 std::string(child) + "</ProjectConstant></ProjectConstants>";
+    const bool isEmptyGroup = std::string_view(child) == "<ProjectConstants/>";
+    EXPECT_EQ(Rewritten(document).substr(0, 8), isEmptyGroup ? "<Project" : "800A005B") << child;
+  }
+}
+
+}  // namespace
+}  // namespace praxen

@@ -1,0 +1,75 @@
+#include "tests/support/documents.h"
+
+#include <cstdio>
+
+#include "praxen/core/error.h"
+#include "praxen/core/library.h"
+#include "praxen/core/xml_string_writer.h"
+#include "praxen/describe/description.h"
+#include "praxen/factory/deserialization.h"
+
+namespace praxen {
+
+namespace {
+
+constexpr std::string_view kDeclaration = "<?xml version='1.0' encoding='UTF-16'?>";
+constexpr std::string_view kNamespace = " xmlns='PraxenSchema3_0'";
+
+size_t EndOfName(std::string_view markup) { return markup.find_first_of(" />", 1); }
+
+const ClassDescription& ClassOf(std::u16string_view element) {
+  for (const auto describe : AllClasses()) {
+    const ClassDescription& description = describe();
+    if (description.layout != nullptr && description.layout().element == element) {
+      return description;
+    }
+  }
+  throw std::invalid_argument("no class for " + ToUtf8(element));
+}
+
+}  // namespace
+
+Text Document(std::string_view markup) {
+  const size_t end = EndOfName(markup);
+  return FromUtf8(std::string(kDeclaration)
+                      .append(markup.substr(0, end))
+                      .append(kNamespace)
+                      .append(markup.substr(end)));
+}
+
+std::string Markup(Object& object) {
+  struct NoLineBreaks {
+    NoLineBreaks() { SetIncludeCRLFInXML(false); }
+    ~NoLineBreaks() { SetIncludeCRLFInXML(true); }
+  };
+  const NoLineBreaks setting;
+  XMLStringWriter writer;
+  writer.WriteStartDocument();
+  object.WriteXML(writer);
+  return ToUtf8(writer.ToXMLString()).substr(kDeclaration.size());
+}
+
+std::string Rewritten(std::string_view markup, std::string_view className) {
+  const ClassDescription& description =
+      className.empty() ? ClassOf(FromUtf8(markup.substr(1, EndOfName(markup) - 1)))
+                        : *FindClass(FromUtf8(className));
+  std::string written;
+  const std::string error =
+      ErrorOf([&] { written = Markup(*DeserializeObject(description, Document(markup))); });
+  return error == "none" ? written : error;
+}
+
+std::string ErrorOf(const std::function<void()>& operation) {
+  try {
+    operation();
+    return "none";
+  } catch (const Error& error) {
+    char number[16];
+    const bool isObjectError = error.number() >> 16 == 0x8004;
+    std::snprintf(number, sizeof number, isObjectError ? "%u " : "%08X ",
+                  isObjectError ? error.number() & 0xFFFF : error.number());
+    return number + std::string(error.what());
+  }
+}
+
+}  // namespace praxen
