@@ -1,4 +1,4 @@
-// HWUnit, a unit of the hardware configuration, and the list of its sub-units.
+// HWUnit, a unit of the hardware configuration, and the list of such units.
 #ifndef PRAXEN_MODEL_HARDWARE_HW_UNIT_H_
 #define PRAXEN_MODEL_HARDWARE_HW_UNIT_H_
 
@@ -7,18 +7,7 @@
 
 namespace praxen {
 
-class HWUnit;
-
-class HWUnits final : public Collection<HWUnits, HWUnit> {
- public:
-  Ref<HWUnit> Add3(const Text& Path, const Text& TypeID, const Text& TypeDescription,
-                   const Text& Guid, const Text& TypeGuid);
-
-  static constexpr std::string_view kHelp = "Hardware units, in order.";
-  static constexpr std::string_view kArgument = "hwu";
-  static Members members();
-  static Layout layout();
-};
+class HWUnits;
 
 /// Units form a tree: one that stands somewhere below itself cannot be written.
 class HWUnit final : public Serializable<HWUnit> {
@@ -65,6 +54,17 @@ class HWUnit final : public Serializable<HWUnit> {
   using Form = Creation<HWUnit, &HWUnit::Path>;
   using LongForm = Extended<Form, &HWUnit::TypeID, &HWUnit::TypeDescription, &HWUnit::Guid>;
   using FullForm = Extended<LongForm, &HWUnit::TypeGuid>;
+};
+
+class HWUnits final : public Collection<HWUnits, HWUnit> {
+ public:
+  Ref<HWUnit> Add3(const Text& Path, const Text& TypeID, const Text& TypeDescription,
+                   const Text& Guid, const Text& TypeGuid);
+
+  static constexpr std::string_view kHelp = "Hardware units, in order.";
+  static constexpr std::string_view kArgument = "hwu";
+  static Members members();
+  static Layout layout();
 };
 
 extern template const ClassDescription& Describe<HWUnits>();
