@@ -13,7 +13,7 @@
 
 namespace praxen {
 
-constinit StaticTextBlock<1> Text::kEmpty{{{0}, 0}, {0}};
+constinit StaticTextBlock<1> Text::kEmpty{{0, 0}, {0}};
 
 namespace {
 
@@ -36,7 +36,7 @@ char16_t* Text::Allocate(size_t length) {
   if (length > kLongestText) throw Overflow();
   void* const memory = std::malloc(sizeof(TextBlock) + (length + 1) * sizeof(char16_t));
   if (memory == nullptr) throw std::bad_alloc();
-  auto* const block = new (memory) TextBlock{{1}, static_cast<uint32_t>(length)};
+  auto* const block = new (memory) TextBlock{1, static_cast<uint32_t>(length)};
   auto* const characters = reinterpret_cast<char16_t*>(block + 1);
   characters[length] = 0;
   return characters;

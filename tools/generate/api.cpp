@@ -3,6 +3,7 @@
 
 #include "praxen/core/enumerations.h"
 #include "praxen/describe/description.h"
+#include "praxen/platform/automation_values.h"
 #include "tools/generate/documents.h"
 
 namespace praxen {
@@ -63,6 +64,15 @@ std::string CreationValue(const Member& member, Object& created) {
   return child != children.end() && child->held(created) == nullptr ? "none" : "new";
 }
 
+// The value of a property behind a pair of functions.
+std::string ComputedValue(const Member& member, Object& created) {
+  Variant value;
+  member.invokeGet(created, nullptr, value);
+  if (member.type.kind == ValueKind::Boolean)
+    return value.boolVal == VARIANT_FALSE ? "false" : "true";
+  return value.View().empty() ? "empty" : "\"" + ToUtf8(value.View()) + "\"";
+}
+
 std::string Signature(const Member& member) {
   if (!member.isMethod && member.parameters.empty()) return Code(member.name);
   std::string parameters;
@@ -77,8 +87,9 @@ std::string Access(const Member& member, Object* created) {
   if (member.id == kDefaultMemberId && member.hasFixedId) return "default member";
   if (member.id == kEnumeratorId) return "enumerator";
   if (member.put == nullptr) return "read only";
-  if (member.storage == nullptr || created == nullptr) return "";
-  return CreationValue(member, *created);
+  if (created == nullptr) return "";
+  return member.storage == nullptr ? ComputedValue(member, *created)
+                                   : CreationValue(member, *created);
 }
 
 std::string Section(const ClassDescription& description) {
@@ -107,7 +118,15 @@ std::string EnumerationSection(const EnumerationDescription& enumeration) {
     text += "| " + Code(constant.name) + " | " + std::to_string(constant.value) + " | " +
             Code(ToUtf8(constant.text)) + " |\n";
   }
-  return text + "\nAny other text reads as " + std::to_string(enumeration.otherwise) + ".\n";
+  const auto otherwise = std::to_string(enumeration.otherwise);
+  if (enumeration.spellings.empty()) {
+    return text + "\nA text reads as its first constant, any other text as " + otherwise + ".\n";
+  }
+  text += "\nIn any letter case";
+  for (const EnumerationConstant& spelling : enumeration.spellings) {
+    text += ", " + Code(ToUtf8(spelling.text)) + " reads as " + std::to_string(spelling.value);
+  }
+  return text + "; any other text as " + otherwise + ".\n";
 }
 
 }  // namespace

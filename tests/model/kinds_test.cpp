@@ -1,0 +1,473 @@
+// The kind interfaces, a client's own implementations of them, and what charts, rows, messages and
+// creating operations do beyond the pattern.
+#include <gtest/gtest.h>
+
+#include "praxen/core/library.h"
+#include "praxen/praxen.h"
+#include "tests/support/documents.h"
+
+namespace praxen {
+namespace {
+
+constexpr const char* kMismatch = "80020005 Type mismatch";
+constexpr const char* kBadPosition = "8002000B Subscript out of range";
+
+/// A client's implementation of a kind that has a name. It answers true to one query, or to none.
+template <class Kind>
+class Named : public Kind {
+ public:
+  explicit Named(bool claims) : claims(claims) {}
+  Text Name() const override { return name; }
+  void SetName(const Text& value) override { name = value; }
+
+  Text name;
+  const bool claims;
+};
+
+class OwnCodeBlock final : public Named<ICodeBlock> {
+ public:
+  using Named::Named;
+  bool IsSTCodeBlock() const override { return claims; }
+};
+
+class OwnControlModule final : public Named<IControlModule> {
+ public:
+  using Named::Named;
+  bool IsControlModule() const override { return claims; }
+  bool IsSingleControlModule() const override { return !claims; }
+};
+
+class OwnProtocol final : public Named<IVAProtocol> {
+ public:
+  using Named::Named;
+  bool IsVAAddressedProtocol() const override { return claims; }
+};
+
+class OwnElement final : public ISFCElement {
+ public:
+  explicit OwnElement(bool claims) : claims_(claims) {}
+  bool IsSFCSubSequence() const override { return claims_; }
+
+ private:
+  const bool claims_;
+};
+
+class OwnMessage final : public IMsg {
+ public:
+  explicit OwnMessage(bool claims) : claims_(claims) {}
+  bool IsErrorMsg() const override { return claims_; }
+
+ private:
+  const bool claims_;
+};
+
+// What a list between whose own elements a client's stands is written as.
+template <class Own, class List>
+std::string Written(const Ref<List>& list, bool claims) {
+  list->AddBefore(Ref<Own>(new Own(claims)), 2);
+  std::string markup;
+  const std::string error = ErrorOf([&] { markup = Markup(*list); });
+  return error == "none" ? markup : error;
+}
+
+Ref<CodeBlocks> TwoCodeBlocks() {
+  const auto list = New<CodeBlocks>();
+  list->AddSTCodeBlock1(u"a");
+  list->AddILCodeBlock1(u"b");
+  return list;
+}
+
+Ref<ControlModules> TwoControlModules() {
+  const auto list = New<ControlModules>();
+  list->AddControlModule(u"a", u"t")->GraphPos = nullptr;
+  list->AddSingleControlModuleInst(u"b")->GraphPos = nullptr;
+  return list;
+}
+
+Ref<SFCElements> TwoElements() {
+  const auto list = New<SFCElements>();
+  list->AddStep1(u"a");
+  list->AddTransition1(u"b");
+  return list;
+}
+
+Ref<AccessVariables> TwoProtocols(bool claims) {
+  const auto access = New<AccessVariables>();
+  access->VAProtocols->AddVANamedProtocol1(u"a");
+  access->VAProtocols->AddVAAddressedProtocol1(u"b");
+  access->VAProtocols->AddBefore(Ref<OwnProtocol>(new OwnProtocol(claims)), 2);
+  return access;
+}
+
+Ref<MessageBucket> TwoMessages() {
+  const auto bucket = New<MessageBucket>();
+  bucket->Add(New<ErrorMsg>());
+  bucket->Add(New<FindMsg>());
+  return bucket;
+}
+
+TEST(OwnKinds, OfNoClassAreLeftOut) {
+  EXPECT_EQ(Written<OwnCodeBlock>(TwoCodeBlocks(), false),
+            "<CodeBlocks><STCodeBlock Name='a'><ST_Code></ST_Code></STCodeBlock>"
+            "<ILCodeBlock Name='b' /></CodeBlocks>");
+  EXPECT_EQ(Written<OwnElement>(TwoElements(), false),
+            "<SFCStep Name='a' /><SFCTransition Name='b' />");
+  EXPECT_EQ(Markup(*TwoProtocols(false)),
+            "<Varaccess><VANamedProtocol Name='a' /><VAAddressedProtocol Name='b' /></Varaccess>");
+  EXPECT_EQ(Written<OwnMessage>(TwoMessages(), false),
+            "<MessageBucket NoOfErrors='0' NoOfWarnings='0'><Error ErrorNo='0' Message='' />"
+            "<Find Message='' /></MessageBucket>");
+
+  const auto alone = New<CodeBlocks>();
+  alone->Add(Ref<OwnCodeBlock>(new OwnCodeBlock(false)));
+  EXPECT_EQ(Markup(*alone), "<CodeBlocks />");
+}
+
+TEST(OwnKinds, ThatClaimAClassOfTheLibraryCannotBeWritten) {
+  EXPECT_EQ(Written<OwnCodeBlock>(TwoCodeBlocks(), true), kMismatch);
+  EXPECT_EQ(Written<OwnControlModule>(TwoControlModules(), true), kMismatch);
+  EXPECT_EQ(Written<OwnElement>(TwoElements(), true), kMismatch);
+  EXPECT_EQ(ErrorOf([] { TwoProtocols(true)->Serialize(); }), kMismatch);
+  EXPECT_EQ(Written<OwnMessage>(TwoMessages(), true), kMismatch);
+  // What is no control module is taken for a single one, whatever it answers.
+  EXPECT_EQ(Written<OwnControlModule>(TwoControlModules(), false), kMismatch);
+  EXPECT_EQ(Markup(*TwoControlModules()),
+            "<ControlModules><ControlModule Name='a' Type='t' />"
+            "<SingleControlModule Name='b' TypeGuid=' ' /></ControlModules>");
+}
+
+TEST(OwnKinds, AFailedDocumentLeavesNothingInTheNext) {
+  const auto program = ObjectFactory::NewProgram(u"P", u"");
+  program->CodeBlocks->Add(Ref<OwnCodeBlock>(new OwnCodeBlock(true)));
+  EXPECT_EQ(ErrorOf([&] { program->Serialize(); }), kMismatch);
+  program->CodeBlocks->Remove(1);
+  EXPECT_EQ(program->Serialize(), ObjectFactory::NewProgram(u"P", u"")->Serialize());
+}
+
+template <class Own, class List>
+void ExpectFoundByName(const Ref<List>& list) {
+  const Ref<Own> own(new Own(false));
+  own->name = u"b";
+  EXPECT_EQ(list->FindNr(u"b"), 2) << "before it is added";
+  list->AddBefore(own, 2);
+  EXPECT_EQ(list->Find(u"b"), own);
+  EXPECT_EQ(list->Item(2), own);
+  list->Item(2)->SetName(u"c");
+  EXPECT_EQ(own->name, u"c");
+  EXPECT_EQ(list->FindNr(u"c"), 2);
+  EXPECT_EQ(list->FindNr(u"b"), 3);
+  EXPECT_FALSE(list->Find(u"C"));
+}
+
+TEST(OwnKinds, AreFoundByTheNameThatTheyAnswer) {
+  ExpectFoundByName<OwnCodeBlock>(TwoCodeBlocks());
+  ExpectFoundByName<OwnControlModule>(TwoControlModules());
+  const auto protocols = New<VAProtocols>();
+  protocols->AddVANamedProtocol1(u"a");
+  protocols->AddVAAddressedProtocol1(u"b");
+  ExpectFoundByName<OwnProtocol>(protocols);
+}
+
+TEST(OwnKinds, ReleaseWithTheirList) {
+  const Ref<OwnMessage> message(new OwnMessage(false));
+  {
+    const auto bucket = New<MessageBucket>();
+    bucket->Add(message);
+    EXPECT_EQ(message->references(), 2u);
+  }
+  EXPECT_EQ(message->references(), 1u);
+}
+
+template <class Kind>
+struct Query {
+  const char* name;
+  bool (Kind::*ask)() const;
+};
+
+constexpr Query<ICodeBlock> kCodeBlocks[] = {
+    {"STCodeBlock", &ICodeBlock::IsSTCodeBlock}, {"SFCCodeBlock", &ICodeBlock::IsSFCCodeBlock},
+    {"ILCodeBlock", &ICodeBlock::IsILCodeBlock}, {"FBDCodeBlock", &ICodeBlock::IsFBDCodeBlock},
+    {"LDCodeBlock", &ICodeBlock::IsLDCodeBlock}, {"FDCodeBlock", &ICodeBlock::IsFDCodeBlock}};
+constexpr Query<IControlModule> kControlModules[] = {
+    {"ControlModule", &IControlModule::IsControlModule},
+    {"SingleControlModuleInst", &IControlModule::IsSingleControlModule}};
+constexpr Query<ISFCElement> kElements[] = {{"SFCStep", &ISFCElement::IsSFCStep},
+                                            {"SFCTransition", &ISFCElement::IsSFCTransition},
+                                            {"SFCSubSequence", &ISFCElement::IsSFCSubSequence},
+                                            {"SFCSelection", &ISFCElement::IsSFCSelection},
+                                            {"SFCSimultaneous", &ISFCElement::IsSFCSimultaneous}};
+constexpr Query<IMsg> kMessages[] = {{"ErrorMsg", &IMsg::IsErrorMsg},
+                                     {"WarningMsg", &IMsg::IsWarningMsg},
+                                     {"InfoMsg", &IMsg::IsInfoMsg},
+                                     {"FindMsg", &IMsg::IsFindMsg}};
+constexpr Query<IVAProtocol> kProtocols[] = {
+    {"VANamedProtocol", &IVAProtocol::IsVANamedProtocol},
+    {"VAAddressedProtocol", &IVAProtocol::IsVAAddressedProtocol}};
+
+// The names of all queries that the object answers with true.
+template <class Kind, size_t N>
+std::string Answers(const Object& object, const Query<Kind> (&queries)[N]) {
+  std::string names;
+  for (const Query<Kind>& query : queries) {
+    if ((dynamic_cast<const Kind&>(object).*query.ask)()) names += query.name;
+  }
+  return names;
+}
+
+// Each class answers true to the query that names it, and to no other.
+template <class Kind, size_t N>
+void ExpectOneAnswerEach(const Query<Kind> (&queries)[N]) {
+  for (const Query<Kind>& query : queries) {
+    const ClassDescription* const description = FindClass(FromUtf8(query.name));
+    ASSERT_NE(description, nullptr) << query.name;
+    const Ref<Object> object = description->create();
+    EXPECT_EQ(Answers(*object, queries), query.name);
+    EXPECT_NE(object->kindInterface(), nullptr) << query.name;
+  }
+}
+
+TEST(Kinds, OfEveryClassExactlyOneIsTrue) {
+  ExpectOneAnswerEach(kCodeBlocks);
+  ExpectOneAnswerEach(kControlModules);
+  ExpectOneAnswerEach(kElements);
+  ExpectOneAnswerEach(kMessages);
+  ExpectOneAnswerEach(kProtocols);
+  const auto protocol = New<VANamedProtocol>();
+  EXPECT_TRUE(protocol->IVAProtocol_IsVANamedProtocol());
+  EXPECT_FALSE(protocol->IVAProtocol_IsVAAddressedProtocol());
+}
+
+template <class Class, class Kind>
+void ExpectOneName() {
+  const auto object = New<Class>();
+  Kind& kind = *object;
+  kind.SetName(u"through the kind");
+  EXPECT_EQ(object->Name, u"through the kind");
+  object->Name = u"own";
+  EXPECT_EQ(kind.Name(), u"own");
+}
+
+TEST(Kinds, ShareTheNameOfTheirClass) {
+  ExpectOneName<LDCodeBlock, ICodeBlock>();
+  ExpectOneName<SFCCodeBlock, ICodeBlock>();
+  ExpectOneName<ControlModule, IControlModule>();
+  ExpectOneName<SingleControlModuleInst, IControlModule>();
+  ExpectOneName<VANamedProtocol, IVAProtocol>();
+  ExpectOneName<VAAddressedProtocol, IVAProtocol>();
+  const auto warning = New<WarningMsg>();
+  static_cast<IMsg&>(*warning).SetMessage(u"m");
+  EXPECT_EQ(warning->Message, u"m");
+}
+
+TEST(Kinds, OnTheirOwnAnswerNothingAndAreNotCounted) {
+  const int32_t before = ObjectCounter();
+  const auto protocol = New<IVAProtocol>();
+  protocol->SetName(u"ignored");
+  EXPECT_EQ(protocol->Name(), u"");
+  EXPECT_EQ(Answers(*protocol, kProtocols), "");
+  const auto element = New<ISFCElement>();
+  EXPECT_EQ(Answers(*element, kElements), "");
+  const Ref<OwnCodeBlock> own(new OwnCodeBlock(false));
+  const auto ladder = New<LDCodeBlock>();
+  EXPECT_EQ(ObjectCounter(), before);
+  // Classes of the library count, a protocol once although it is a list too.
+  const auto named = New<VANamedProtocol>();
+  const auto error = New<ErrorMsg>();
+  EXPECT_EQ(ObjectCounter(), before + 2);
+}
+
+TEST(Kinds, OnTheirOwnAreLeftOut) {
+  const auto access = New<AccessVariables>();
+  access->VAProtocols->Add(New<IVAProtocol>());
+  EXPECT_EQ(Markup(*access), "<Varaccess />");
+  const auto chart = ObjectFactory::NewSFCCodeBlock(u"C");
+  chart->SFCElements->Add(New<ISFCElement>());
+  EXPECT_EQ(Markup(*chart), "<SFCCodeBlock Name='C' />");
+}
+
+std::string Priorities(const SFCBranches& branches) {
+  std::string digits;
+  for (const SFCBranch& branch : branches) digits += std::to_string(branch.SFCPriority);
+  return digits;
+}
+
+TEST(Chart, BranchesAreInsertedBesideAPosition) {
+  using Insert = Ref<SFCBranch> (SFCBranches::*)(int32_t);
+  constexpr Insert kBefore = &SFCBranches::AddBranchBefore, kAfter = &SFCBranches::AddBranchAfter;
+  struct Case {
+    Insert insert;
+    int32_t position;
+    const char* priorities;
+  };
+  const Case cases[] = {
+      {kBefore, 1, "412"}, {kBefore, 2, "142"}, {kAfter, 1, "142"},         {kAfter, 2, "124"},
+      {kBefore, 0, "12"},  {kBefore, 3, "12"},  {kBefore, -1, "12"},        {kAfter, 0, "12"},
+      {kAfter, 3, "12"},   {kAfter, -1, "12"},  {kAfter, 2147483647, "12"},
+  };
+  for (const Case& test : cases) {
+    const auto branches = New<SFCBranches>();
+    branches->AddBranch()->SFCPriority = pxSFCPriorityLowest;
+    branches->AddBranch()->SFCPriority = pxSFCPriorityLow;
+    const std::string error =
+        ErrorOf([&] { (*branches.*test.insert)(test.position)->SFCPriority = pxSFCPriorityHigh; });
+    EXPECT_EQ(Priorities(*branches), test.priorities) << test.position;
+    EXPECT_EQ(error, branches->Count() == 3 ? "none" : kBadPosition) << test.position;
+  }
+  EXPECT_EQ(ErrorOf([] { New<SFCBranches>()->AddBranchBefore(1); }), kBadPosition);
+}
+
+TEST(Chart, BranchingsHaveAsManyBranchesAsAreAskedFor) {
+  struct Case {
+    int32_t number;
+    std::string branches;
+  };
+  for (const Case& test : {Case{2, "><SFCBranch /><SFCBranch /></"}, Case{0, ""}, Case{-1, ""}}) {
+    const auto elements = New<SFCElements>();
+    const Ref<SFCSelection> selection = elements->AddSelection1(test.number);
+    const Ref<SFCSimultaneous> simultaneous = elements->AddSimultaneous1(test.number);
+    EXPECT_EQ(elements->Item(1), selection);
+    EXPECT_EQ(elements->Item(2), simultaneous);
+    const auto element = [&](const std::string& name) {
+      return "<" + name + (test.branches.empty() ? " />" : test.branches + name + ">");
+    };
+    EXPECT_EQ(Markup(*elements), element("SFCSelection") + element("SFCSimultaneous"));
+    EXPECT_EQ(Markup(*ObjectFactory::NewSFCSelection(test.number)), element("SFCSelection"));
+  }
+}
+
+TEST(Chart, ActionsAreWrittenInTheirOwnOrder) {
+  const auto elements = New<SFCElements>();
+  const Ref<SFCStep> step = elements->AddStep2(u"S", true, u"rise", u"while", u"fall");
+  EXPECT_EQ(step->P0_Action_STCode, u"fall");
+  EXPECT_EQ(step->N_Action_STCode, u"while");
+  EXPECT_EQ(Markup(*step),
+            "<SFCStep Name='S' InitialStep='1'><P1_Action><ST_Code>rise</ST_Code></P1_Action>"
+            "<N_Action><ST_Code>while</ST_Code></N_Action>"
+            "<P0_Action><ST_Code>fall</ST_Code></P0_Action></SFCStep>");
+  step->P1_Action_STCode = step->P0_Action_STCode = u"";
+  EXPECT_EQ(Markup(*step),
+            "<SFCStep Name='S' InitialStep='1'><N_Action><ST_Code>while</ST_Code></N_Action>"
+            "</SFCStep>");
+}
+
+TEST(Chart, TransitionsHoldTheirCondition) {
+  const auto elements = New<SFCElements>();
+  const Ref<SFCTransition> transition = elements->AddTransition2(u"T", u"a < b & c", u"S");
+  EXPECT_EQ(Markup(*transition),
+            "<SFCTransition Name='T' Dest='S' >a &lt; b &amp; c</SFCTransition>");
+  transition->Transition_STCode = transition->Dest = u"";
+  EXPECT_EQ(Markup(*transition), "<SFCTransition Name='T' />");
+}
+
+TEST(InstructionList, ARowIsAnInstructionOrAComment) {
+  struct Case {
+    std::function<Ref<ILRow>(ILRows&)> add;
+    std::string row;
+  };
+  const Case cases[] = {
+      {[](ILRows& rows) { return rows.AddRow(u"l", u"LD", u"x", u"d"); },
+       "<ILRow><Label>l</Label><Instruction>LD</Instruction><Operand>x</Operand>"
+       "<Description>d</Description></ILRow>"},
+      {[](ILRows& rows) { return rows.AddRow(u"", u"LD", u"", u"d"); },
+       "<ILRow><Instruction>LD</Instruction><Description>d</Description></ILRow>"},
+      {[](ILRows& rows) { return rows.AddRow(u"", u"", u"", u""); }, "<ILRow />"},
+      {[](ILRows& rows) { return rows.AddComment(u"c"); },
+       "<ILRow><ILRowComment>c</ILRowComment></ILRow>"},
+      {[](ILRows& rows) { return rows.AddComment(u""); },
+       "<ILRow><ILRowComment></ILRowComment></ILRow>"},
+      // What does not belong to its form is kept but not written.
+      {[](ILRows& rows) {
+         const Ref<ILRow> row = rows.AddRow(u"l", u"LD", u"x", u"d");
+         row->IsRowComment = true;
+         return row;
+       },
+       "<ILRow><ILRowComment></ILRowComment></ILRow>"},
+      {[](ILRows& rows) {
+         const Ref<ILRow> row = rows.AddComment(u"c");
+         row->IsRowComment = false;
+         return row;
+       },
+       "<ILRow />"},
+  };
+  const auto block = ObjectFactory::NewILCodeBlock(u"i");
+  std::string rows;
+  for (const Case& test : cases) {
+    EXPECT_EQ(Markup(*test.add(*block->ILRows)), test.row);
+    rows += test.row;
+  }
+  EXPECT_EQ(Markup(*block), "<ILCodeBlock Name='i'>" + rows + "</ILCodeBlock>");
+  block->Name = u"";
+  EXPECT_EQ(ErrorOf([&] { block->Serialize(); }), "601 Required fields empty");
+}
+
+TEST(MessageBucket, CountersAreIndependentOfTheMessages) {
+  const auto bucket = New<MessageBucket>();
+  for (int i = 0; i < 3; ++i) bucket->Add(New<ErrorMsg>());
+  EXPECT_EQ(bucket->NoOfErrors, 0);
+  bucket->NoOfErrors = 7;
+  bucket->NoOfWarnings = -1;
+  bucket->Remove(1);
+  EXPECT_EQ(Markup(*bucket),
+            "<MessageBucket NoOfErrors='7' NoOfWarnings='-1'><Error ErrorNo='0' Message='' />"
+            "<Error ErrorNo='0' Message='' /></MessageBucket>");
+  const auto again = ObjectFactory::DeserializeMessageBucket(bucket->Serialize());
+  EXPECT_EQ(again->NoOfErrors, 7);
+  EXPECT_EQ(again->Count(), 2);
+}
+
+TEST(Factory, SpellsTheUnknownTypeOfAccessVariables) {
+  EXPECT_EQ(New<VANamedVariable>()->VAType, u"Unknown");
+  EXPECT_EQ(Markup(*ObjectFactory::NewVANamedVariable(u"n", u"p")),
+            "<VANamedVariable Name='n' Path='p' VAType='unknown' Row='0' />");
+  EXPECT_EQ(Markup(*ObjectFactory::NewVANamedVariable1(u"n", u"p", u"a", 3)),
+            "<VANamedVariable Name='n' Path='p' Attribute='a' VAType='unknown' Row='3' />");
+  EXPECT_EQ(Markup(*New<VAAddressedProtocol>()->Add2(u"n", u"p", 3)),
+            "<VAAddressedVariable Name='n' Path='p' VAType='unknown' Row='3' />");
+}
+
+TEST(Factory, TakesTheAddressOfAChannelBeforeItsName) {
+  const auto channel =
+      ObjectFactory::NewHWChannel1(u"0.1", u"Level", u"v", u"d", u"min", u"max", u"u", u"f", true);
+  EXPECT_EQ(Markup(*channel),
+            "<HWChannel Address='0.1' Name='Level' Min='min' Max='max' Unit='u' Fraction='f' "
+            "Reversed='1'><ConVariable Signal='0' >v</ConVariable>"
+            "<IODescription>d</IODescription></HWChannel>");
+  const auto brief = ObjectFactory::NewHWChannel(u"0.1", u"Level", u"v", u"d");
+  EXPECT_EQ(brief->Address, u"0.1");
+  EXPECT_EQ(brief->Name, u"Level");
+}
+
+TEST(Factory, SharesTheObjectsThatItIsGiven) {
+  const auto position = ObjectFactory::NewGraphPos(1, 2, 3, 4, 5);
+  const auto module =
+      ObjectFactory::NewControlModule1(u"m", u"t", u"", pxInvisible, u"", u"", position);
+  const auto list = New<ControlModules>();
+  list->AddSingleControlModuleInst1(u"s", u"", pxDefault, u"g", u"", position);
+  position->XPos = -2.5;
+  const std::string graphics =
+      "<GraphPos XPos='-2.5' YPos=' 2' Rotation=' 3' XScale=' 4' YScale=' 5' />";
+  EXPECT_EQ(Markup(*module), "<ControlModule Name='m' Type='t' VisibilityInGraphics='invisible'>" +
+                                 graphics + "</ControlModule>");
+  EXPECT_EQ(Markup(*list), "<ControlModules><SingleControlModule Name='s' TypeGuid='g'>" +
+                               graphics + "</SingleControlModule></ControlModules>");
+
+  const auto corner = ObjectFactory::NewPoint(0, 0);
+  const auto size = ObjectFactory::NewGraphSize(corner, corner);
+  corner->Y = 3;
+  EXPECT_EQ(Markup(*size), "<GraphSize><Point X=' 0' Y=' 3' /><Point X=' 0' Y=' 3' /></GraphSize>");
+}
+
+TEST(Factory, ConvertsTheAcknowledgeGroupOfASignalToText) {
+  const auto group = [](const AnyValue& value) {
+    return ToUtf8(ObjectFactory::NewSignal(u"s", u"", u"in", value)->AcknowledgeGroup);
+  };
+  EXPECT_EQ(group(u"fire"), "fire");
+  EXPECT_EQ(group(7), "7");
+  EXPECT_EQ(group(-2.5), "-2.5");
+  EXPECT_EQ(group(true), "True");
+  EXPECT_EQ(group(false), "False");
+  EXPECT_EQ(group(u""), "");
+}
+
+}  // namespace
+}  // namespace praxen
