@@ -86,8 +86,8 @@ TEST(Numbers, AreWrittenInTheClassicForm) {
     EXPECT_EQ(Text(NumberText(test.number)), test.text);
     EXPECT_EQ(XMLTextToDouble(test.text), test.number);
   }
-  EXPECT_THROW(NumberText(std::numeric_limits<double>::infinity()), Error);
-  EXPECT_THROW(NumberText(std::numeric_limits<double>::quiet_NaN()), Error);
+  EXPECT_THROW(NumberText{std::numeric_limits<double>::infinity()}, Error);
+  EXPECT_THROW(NumberText{std::numeric_limits<double>::quiet_NaN()}, Error);
   EXPECT_EQ(Text(NumberText(std::numeric_limits<int32_t>::min())), u"-2147483648");
 }
 

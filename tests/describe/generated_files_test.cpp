@@ -25,6 +25,13 @@ TEST(GeneratedFiles, AreUpToDate) {
   }
 }
 
+TEST(Readme, ShowsTheExampleThatIsCompiled) {
+  const std::filesystem::path root(PRAXEN_SOURCE_FOLDER);
+  const std::string example = ReadFile(root / "examples/readme_example.cpp");
+  const std::string shown = example.substr(example.find("#include"));
+  EXPECT_NE(ReadFile(root / "README.md").find(shown), std::string::npos) << shown;
+}
+
 size_t Count(const std::string& text, std::string_view part) {
   size_t count = 0;
   for (size_t at = 0; (at = text.find(part, at)) != std::string::npos; ++at) ++count;
