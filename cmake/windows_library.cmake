@@ -1,6 +1,7 @@
 # What only the Windows DLL has: its name, its entry points and its type library.
 enable_language(RC)
-set_target_properties(PraxenHelper PROPERTIES PREFIX "")
+set_target_properties(PraxenHelper PROPERTIES PREFIX ""
+                      RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
 target_link_libraries(PraxenHelper PRIVATE ole32 oleaut32 uuid)
 
 # Names the entry points; nothing else is exported.
@@ -31,3 +32,10 @@ foreach(file IN LISTS interfaces)
   set_property(SOURCE ${resources} APPEND PROPERTY OBJECT_DEPENDS ${output}.tlb)
 endforeach()
 set_property(SOURCE ${resources} APPEND PROPERTY INCLUDE_DIRECTORIES ${CMAKE_CURRENT_BINARY_DIR})
+
+# What users get beside the DLL: the schema, and the manifest for use without registration.
+add_custom_command(
+  TARGET PraxenHelper POST_BUILD
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different ${schema_if_present}
+          ${CMAKE_CURRENT_SOURCE_DIR}/server/PraxenHelper.manifest ${PROJECT_BINARY_DIR}
+  VERBATIM)

@@ -23,12 +23,12 @@ namespace {
 constexpr char kUserHelp[] = "For this user only; registering for the machine needs its rights";
 
 // The library beside this program, which is another module on Windows.
-class Library {
+class ServerModule {
  public:
-  Library() : module_(LoadLibraryW((ModuleFolder() / "PraxenHelper.dll").c_str())) {}
-  Library(const Library&) = delete;
-  Library& operator=(const Library&) = delete;
-  ~Library() {
+  ServerModule() : module_(LoadLibraryW((ModuleFolder() / "PraxenHelper.dll").c_str())) {}
+  ServerModule(const ServerModule&) = delete;
+  ServerModule& operator=(const ServerModule&) = delete;
+  ~ServerModule() {
     if (module_ != nullptr) FreeLibrary(module_);
   }
 
@@ -43,7 +43,7 @@ class Library {
 };
 
 HRESULT SetRegistered(bool registered, bool forUser) {
-  const Library library;
+  const ServerModule library;
   auto* const install = library.Find<HRESULT STDAPICALLTYPE(BOOL, LPCWSTR)>("DllInstall");
   auto* const act = library.Find<HRESULT STDAPICALLTYPE()>(registered ? "DllRegisterServer"
                                                                       : "DllUnregisterServer");

@@ -1,0 +1,77 @@
+// Class objects: one is made for each request and keeps the library loaded as objects do.
+#include "praxen/server/class_object.h"
+
+#include "praxen/core/library.h"
+#include "praxen/describe/identifiers.h"
+#include "praxen/platform/automation_guard.h"
+#include "praxen/platform/automation_values.h"
+
+namespace praxen {
+
+namespace {
+
+constinit int32_t locks = 0;
+
+class ClassObject final : public IClassFactory {
+ public:
+  explicit ClassObject(const ClassDescription& description) : description_(description) {
+    CountModuleObject(1);
+  }
+  ClassObject(const ClassObject&) = delete;
+  ClassObject& operator=(const ClassObject&) = delete;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
+    if (out == nullptr) return E_POINTER;
+    *out = nullptr;
+    if (iid != IID_IUnknown && iid != IID_IClassFactory) return E_NOINTERFACE;
+    AddRef();
+    *out = this;
+    return S_OK;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() override {
+    const ULONG remaining = --references_;
+    if (remaining == 0) delete this;
+    return remaining;
+  }
+
+  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
+    if (out == nullptr) return E_POINTER;
+    *out = nullptr;
+    if (outer != nullptr) return CLASS_E_NOAGGREGATION;
+    return Guarded([&] {
+      const Ref<Object> object = description_.create();
+      return reinterpret_cast<IUnknown*>(static_cast<Interface*>(object.get()))
+          ->QueryInterface(iid, out);
+    });
+  }
+  // A lock that was never set cannot be taken away.
+  HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
+    if (lock == FALSE && locks == 0) return E_UNEXPECTED;
+    locks += lock == FALSE ? -1 : 1;
+    return S_OK;
+  }
+
+ private:
+  ~ClassObject() { CountModuleObject(-1); }
+
+  const ClassDescription& description_;
+  ULONG references_ = 1;
+};
+
+}  // namespace
+
+HRESULT GetClassObject(REFCLSID clsid, REFIID iid, void** out) noexcept {
+  if (out == nullptr) return E_POINTER;
+  *out = nullptr;
+  return Guarded([&]() -> HRESULT {
+    const ClassDescription* const description = FindClassById(clsid);
+    if (description == nullptr || description->create == nullptr) return CLASS_E_CLASSNOTAVAILABLE;
+    const auto made = ComPointer<ClassObject>::Attach(new ClassObject(*description));
+    return made->QueryInterface(iid, out);
+  });
+}
+
+bool CanUnload() noexcept { return locks == 0 && !ModuleInUse(); }
+
+}  // namespace praxen

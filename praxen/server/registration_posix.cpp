@@ -1,0 +1,30 @@
+// Registration in the user's file of classes.
+#include "praxen/describe/identifiers.h"
+#include "praxen/platform/automation_guard.h"
+#include "praxen/platform/class_registry.h"
+#include "praxen/platform/module_folder.h"
+#include "praxen/server/registration.h"
+
+namespace praxen {
+
+HRESULT Register(RegistrationScope) noexcept {
+  return Guarded([] {
+    std::vector<ClassEntry> entries;
+    for (const ClassDescription* const description : CreatableClasses()) {
+      entries.push_back({ProgId(*description), ClassId(*description)});
+    }
+    return RegisterClasses(entries, ModuleFile());
+  });
+}
+
+HRESULT Unregister(RegistrationScope) noexcept {
+  return Guarded([] {
+    std::vector<CLSID> identifiers;
+    for (const ClassDescription* const description : CreatableClasses()) {
+      identifiers.push_back(ClassId(*description));
+    }
+    return UnregisterClasses(identifiers);
+  });
+}
+
+}  // namespace praxen

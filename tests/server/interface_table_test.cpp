@@ -1,0 +1,252 @@
+// Calls through interface tables that are declared by hand, as a compiled client has them.
+#include <gtest/gtest.h>
+
+#include "praxen/core/text.h"
+#include "praxen/describe/identifiers.h"
+#include "tests/server/client.h"
+
+namespace praxen::client {
+
+// Slot order is the order of declaration. The interfaces have linkage, because a compiler that sees
+// that no class of the program implements them would otherwise take a call for impossible.
+#define SLOT virtual HRESULT STDMETHODCALLTYPE
+
+struct IVariable : IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE get_Name(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_Name(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_TypeName(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_TypeName(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_PXAttribute(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_PXAttribute(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_InitialValue(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_InitialValue(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_Description(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_Description(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_ReadPermission(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_ReadPermission(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_WritePermission(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_WritePermission(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_AuthenticationLevel(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_AuthenticationLevel(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_BatchProperty(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_BatchProperty(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_GraphNodes(IDispatch**) = 0;
+  virtual HRESULT STDMETHODCALLTYPE putref_GraphNodes(IDispatch*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_TypeGuid(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_TypePath(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Serialize(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_AccessLevel(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_AccessLevel(BSTR) = 0;
+};
+
+struct IVariables : IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE Add(IDispatch*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddBefore(IDispatch*, LONG) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Add1(BSTR, BSTR, IVariable**) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Add2(BSTR, BSTR, BSTR, BSTR, BSTR, BSTR, BSTR, IVariable**) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Find(BSTR, IVariable**) = 0;
+  virtual HRESULT STDMETHODCALLTYPE FindNr(BSTR, LONG*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_Item(LONG, IVariable**) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_Count(LONG*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Remove(LONG) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_NewEnum(IUnknown**) = 0;
+};
+
+struct IGraphNodes : IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE Add(IDispatch*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddBefore(IDispatch*, LONG) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Add1(BSTR, double, double, IDispatch**) = 0;
+};
+
+struct ISignals : IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE Add(IDispatch*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddBefore(IDispatch*, LONG) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Add1(BSTR, BSTR, BSTR, VARIANT, IDispatch**) = 0;
+};
+
+struct ICodeBlocks : IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE Add(IUnknown*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddBefore(IUnknown*, LONG) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddSTCodeBlock(IDispatch*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddSTCodeBlock1(BSTR, IDispatch**) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddSTCodeBlock2(BSTR, BSTR*, IDispatch**) = 0;
+};
+
+struct IKindOfModule : IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE put_Name(BSTR) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_Name(BSTR*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_IsControlModule(VARIANT_BOOL*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_IsSingleControlModule(VARIANT_BOOL*) = 0;
+};
+
+struct IMaintenance : IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE get_NrOfObjects(LONG*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_IncludeCRLFInXML(VARIANT_BOOL*) = 0;
+  virtual HRESULT STDMETHODCALLTYPE put_IncludeCRLFInXML(VARIANT_BOOL) = 0;
+};
+
+namespace {
+
+// The interface of a class, or of the kind that is named instead.
+template <class I>
+ComPointer<I> As(const Handle& object, std::u16string_view name) {
+  return object.As<I>(InterfaceId(*FindClass(name)));
+}
+
+template <class I>
+ComPointer<I> Make(std::string_view name) {
+  return As<I>(Create(name), FromUtf8(name));
+}
+
+BStr B(const char16_t* text) { return BStr(text); }
+
+TEST(InterfaceTable, PropertiesOfAVariableStandInTheirSlots) {
+  const auto variable = Make<IVariable>("Variable");
+  ASSERT_TRUE(variable);
+  using Getter = HRESULT (STDMETHODCALLTYPE IVariable::*)(BSTR*);
+  using Setter = HRESULT (STDMETHODCALLTYPE IVariable::*)(BSTR);
+  struct Property {
+    const char16_t* name;
+    Getter get;
+    Setter put;
+  };
+  const Property properties[] = {
+      {u"Name", &IVariable::get_Name, &IVariable::put_Name},
+      {u"TypeName", &IVariable::get_TypeName, &IVariable::put_TypeName},
+      {u"PXAttribute", &IVariable::get_PXAttribute, &IVariable::put_PXAttribute},
+      {u"InitialValue", &IVariable::get_InitialValue, &IVariable::put_InitialValue},
+      {u"Description", &IVariable::get_Description, &IVariable::put_Description},
+      {u"ReadPermission", &IVariable::get_ReadPermission, &IVariable::put_ReadPermission},
+      {u"WritePermission", &IVariable::get_WritePermission, &IVariable::put_WritePermission},
+      {u"AuthenticationLevel", &IVariable::get_AuthenticationLevel,
+       &IVariable::put_AuthenticationLevel},
+      {u"BatchProperty", &IVariable::get_BatchProperty, &IVariable::put_BatchProperty},
+      {u"AccessLevel", &IVariable::get_AccessLevel, &IVariable::put_AccessLevel},
+  };
+  const Handle byName(variable.Get());
+  for (const Property& property : properties) {
+    EXPECT_EQ((variable.Get()->*property.put)(B(property.name).Get()), S_OK);
+    EXPECT_EQ(GetText(byName, property.name), property.name);
+    BStr text;
+    EXPECT_EQ((variable.Get()->*property.get)(text.Receive()), S_OK);
+    EXPECT_EQ(text.View(), property.name);
+    EXPECT_EQ((variable.Get()->*property.get)(nullptr), E_POINTER);
+  }
+  EXPECT_EQ(variable->put_Name(nullptr), S_OK);
+  EXPECT_EQ(GetText(byName, u"Name"), u"");
+  BStr unset;
+  EXPECT_EQ(variable->get_TypePath(unset.Receive()), S_OK);
+  EXPECT_NE(unset.Get(), nullptr);
+}
+
+TEST(InterfaceTable, ListsGiveAndTakeObjects) {
+  const auto list = Make<IVariables>("Variables");
+  ComPointer<IVariable> first, second, found;
+  EXPECT_EQ(list->Add1(B(u"a").Get(), B(u"real").Get(), first.Receive()), S_OK);
+  EXPECT_EQ(list->Add2(B(u"b").Get(), B(u"int").Get(), B(u"constant").Get(), B(u"7").Get(), nullptr,
+                       nullptr, B(u"text").Get(), second.Receive()),
+            S_OK);
+  EXPECT_EQ(GetText(Handle(second.Get()), u"InitialValue"), u"7");
+  EXPECT_EQ(list->AddBefore(second.Get(), 1), S_OK);
+  LONG number = 0;
+  EXPECT_EQ(list->FindNr(B(u"a").Get(), &number), S_OK);
+  EXPECT_EQ(number, 2);
+  EXPECT_EQ(list->get_Item(1, found.Receive()), S_OK);
+  EXPECT_EQ(found.Get(), second.Get());
+  EXPECT_EQ(list->Find(B(u"A").Get(), found.Receive()), S_OK);
+  EXPECT_FALSE(found);
+  EXPECT_EQ(list->Remove(3), S_OK);
+  EXPECT_EQ(list->get_Count(&number), S_OK);
+  EXPECT_EQ(number, 2);
+
+  EXPECT_EQ(list->Add(list.Get()), DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(list->AddBefore(first.Get(), 9), E_INVALIDARG);
+  IVariable* stale = first.Get();
+  EXPECT_EQ(list->get_Item(9, &stale), DISP_E_BADINDEX);
+  EXPECT_EQ(stale, nullptr);
+  EXPECT_EQ(list->Add1(B(u"c").Get(), B(u"real").Get(), nullptr), E_POINTER);
+  EXPECT_EQ(list->get_Count(&number), S_OK);
+  EXPECT_EQ(number, 2);
+  EXPECT_EQ(list->Add(nullptr), S_OK);
+  EXPECT_EQ(list->get_Item(3, found.Receive()), S_OK);
+  EXPECT_FALSE(found);
+}
+
+TEST(InterfaceTable, NumbersVariantsAndReferencesCross) {
+  ComPointer<IDispatch> made;
+  EXPECT_EQ(Make<IGraphNodes>("GraphNodes")->Add1(B(u"n").Get(), 0.5, -2.0, made.Receive()), S_OK);
+  EXPECT_EQ(Get(made, u"X").dblVal, 0.5);
+  EXPECT_EQ(Get(made, u"Y").dblVal, -2.0);
+
+  const auto signals = Make<ISignals>("Signals");
+  const auto add = [&](const VARIANT& group) {
+    return signals->Add1(B(u"s").Get(), B(u"p").Get(), B(u"out").Get(), group, made.Receive());
+  };
+  EXPECT_EQ(add(Variant(12)), S_OK);
+  EXPECT_EQ(GetText(made, u"AcknowledgeGroup"), u"12");
+  EXPECT_EQ(add(OfType(VT_NULL)), DISP_E_TYPEMISMATCH);
+  EXPECT_FALSE(made);
+
+  const auto blocks = Make<ICodeBlocks>("CodeBlocks");
+  BStr code(u"x := 1;");
+  BSTR text = code.Get();
+  EXPECT_EQ(blocks->AddSTCodeBlock2(B(u"Code").Get(), &text, made.Receive()), S_OK);
+  EXPECT_EQ(GetText(made, u"STcode"), u"x := 1;");
+  EXPECT_EQ(blocks->AddSTCodeBlock2(B(u"Code").Get(), nullptr, made.Receive()), E_POINTER);
+
+  const auto maintenance = Make<IMaintenance>("maintenance");
+  EXPECT_EQ(maintenance->put_IncludeCRLFInXML(1), S_OK);
+  VARIANT_BOOL include = 0;
+  EXPECT_EQ(maintenance->get_IncludeCRLFInXML(&include), S_OK);
+  EXPECT_EQ(include, VARIANT_TRUE);
+}
+
+TEST(InterfaceTable, AKindIsASecondInterfaceOfTheSameObject) {
+  const Handle module = Create("ControlModule");
+  const auto kind = As<IKindOfModule>(module, u"IControlModule");
+  ASSERT_TRUE(kind);
+  EXPECT_NE(static_cast<IDispatch*>(kind.Get()), module.Get());
+  EXPECT_EQ(kind->put_Name(B(u"M").Get()), S_OK);
+  EXPECT_EQ(GetText(module, u"Name"), u"M");
+  VARIANT_BOOL answer = VARIANT_FALSE;
+  EXPECT_EQ(kind->get_IsControlModule(&answer), S_OK);
+  EXPECT_EQ(answer, VARIANT_TRUE);
+  EXPECT_EQ(kind->get_IsSingleControlModule(&answer), S_OK);
+  EXPECT_EQ(answer, VARIANT_FALSE);
+
+  EXPECT_EQ(kind.As<IUnknown>(IID_IUnknown).Get(), module.As<IUnknown>(IID_IUnknown).Get());
+  EXPECT_EQ(kind.As<IDispatch>(IID_IDispatch).Get(), module.Get());
+  EXPECT_TRUE(As<IDispatch>(Handle(kind.Get()), u"ControlModule"));
+  EXPECT_FALSE(As<IDispatch>(module, u"ICodeBlock"));
+  EXPECT_EQ(GetText(Handle(kind.Get()), u"TypeName"), u"");
+
+  const Handle modules = Create("ControlModules");
+  EXPECT_EQ(Call(modules, u"Add", {Variant(kind.Get())}).result, S_OK);
+  EXPECT_EQ(Obtain(modules, u"Item", {Variant(1)}).Get(), module.Get());
+}
+
+TEST(InterfaceTable, ErrorInformationIsOfTheLastFailure) {
+  const auto variable = Make<IVariable>("Variable");
+  const auto support = variable.As<ISupportErrorInfo>(IID_ISupportErrorInfo);
+  ASSERT_TRUE(support);
+  EXPECT_EQ(support->InterfaceSupportsErrorInfo(InterfaceId(*FindClass(u"Variable"))), S_OK);
+  EXPECT_EQ(support->InterfaceSupportsErrorInfo(IID_IDispatch), S_OK);
+  EXPECT_EQ(support->InterfaceSupportsErrorInfo(IID_IEnumVARIANT), S_FALSE);
+  EXPECT_EQ(support.As<IUnknown>(IID_IUnknown).Get(), variable.As<IUnknown>(IID_IUnknown).Get());
+
+  const auto reported = [] {
+    ComPointer<IErrorInfo> info;
+    BStr description;
+    if (GetErrorInfo(0, info.Receive()) == S_OK) info->GetDescription(description.Receive());
+    return std::u16string(description.View());
+  };
+  BStr text;
+  EXPECT_EQ(variable->Serialize(text.Receive()), static_cast<HRESULT>(0x80040259));
+  EXPECT_EQ(reported(), u"Required fields empty");
+  EXPECT_EQ(variable->Serialize(text.Receive()), static_cast<HRESULT>(0x80040259));
+  EXPECT_EQ(variable->get_Name(nullptr), E_POINTER);
+  EXPECT_EQ(reported(), u"Null pointer");
+}
+
+}  // namespace
+}  // namespace praxen::client

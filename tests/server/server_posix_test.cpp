@@ -1,0 +1,104 @@
+// The shared library as a server elsewhere than on Windows: registered, loaded, unloaded.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <filesystem>
+
+#include "praxen/platform/class_registry.h"
+#include "tests/server/client.h"
+
+STDAPI DllRegisterServer();
+STDAPI DllUnregisterServer();
+
+namespace praxen::client {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Server : public testing::Test {
+ protected:
+  Server() {
+    std::string pattern = (fs::temp_directory_path() / "server_test.XXXXXX").string();
+    folder_ = ::mkdtemp(pattern.data());
+    ::setenv("PRAXENHELPER_REGISTRY", (folder_ / "classes").c_str(), 1);
+  }
+  ~Server() override {
+    ::unsetenv("PRAXENHELPER_REGISTRY");
+    fs::remove_all(folder_);
+  }
+
+  fs::path folder_;
+};
+
+TEST_F(Server, ClassesAreFoundByNameUntilTheyAreUnregistered) {
+  Handle object;
+  EXPECT_EQ(CreateObject(u"PraxenHelper.Variable", object.Receive()), CO_E_CLASSSTRING);
+  ASSERT_EQ(DllRegisterServer(), S_OK);
+  EXPECT_EQ(DllRegisterServer(), S_OK);
+  EXPECT_EQ(CreateObject(u"praxenhelper.variable", object.Receive()), S_OK);
+  EXPECT_EQ(GetText(object, u"PXAttribute"), u"retain");
+  EXPECT_EQ(CreateObject(u"PraxenHelper.IMsg", object.Receive()), CO_E_CLASSSTRING);
+  EXPECT_EQ(CreateObject(u"PraxenHelper.Nonsense", object.Receive()), CO_E_CLASSSTRING);
+  EXPECT_EQ(CreateObject(nullptr, object.Receive()), E_INVALIDARG);
+  EXPECT_EQ(CreateObject(u"PraxenHelper.Variable", nullptr), E_POINTER);
+
+  ASSERT_EQ(DllUnregisterServer(), S_OK);
+  EXPECT_EQ(DllUnregisterServer(), S_OK);
+  EXPECT_EQ(CreateObject(u"PraxenHelper.Variable", object.Receive()), CO_E_CLASSSTRING);
+  EXPECT_TRUE(fs::is_empty(folder_ / "classes"));
+}
+
+TEST_F(Server, RegistrationThatCannotBeKeptIsAnError) {
+  ::setenv("PRAXENHELPER_REGISTRY", "/proc/no/such/folder", 1);
+  EXPECT_EQ(DllRegisterServer(), REGDB_E_WRITEREGDB);
+}
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define PRAXEN_ONE_COPY_ONLY
+#endif
+#endif
+
+#ifndef PRAXEN_ONE_COPY_ONLY
+
+// A second copy of the library, with libraries of its own, as a client has it that is not linked
+// with it. The address checker knows one copy of each only.
+TEST_F(Server, TheLibraryCanBeUnloaded) {
+  void* const copy = ::dlmopen(LM_ID_NEWLM, PRAXEN_LIBRARY_FILE, RTLD_NOW);
+  ASSERT_NE(copy, nullptr) << ::dlerror();
+  Lmid_t space = 0;
+  ASSERT_EQ(::dlinfo(copy, RTLD_DI_LMID, &space), 0);
+  const auto canUnload = reinterpret_cast<HRESULT (*)()>(::dlsym(copy, "DllCanUnloadNow"));
+  const auto getClassObject =
+      reinterpret_cast<HRESULT (*)(REFCLSID, REFIID, void**)>(::dlsym(copy, "DllGetClassObject"));
+  ASSERT_TRUE(canUnload != nullptr && getClassObject != nullptr);
+  EXPECT_EQ(canUnload(), S_OK);
+
+  const CLSID variables = [] {
+    DllRegisterServer();
+    return LookUpProgId("PraxenHelper.Variables")->clsid;
+  }();
+  ComPointer<IClassFactory> factory;
+  ASSERT_EQ(
+      getClassObject(variables, IID_IClassFactory, reinterpret_cast<void**>(factory.Receive())),
+      S_OK);
+  Handle foreign;
+  ASSERT_EQ(
+      factory->CreateInstance(nullptr, IID_IDispatch, reinterpret_cast<void**>(foreign.Receive())),
+      S_OK);
+  EXPECT_EQ(canUnload(), S_FALSE);
+  // Objects of another copy are foreign, whatever they look like.
+  EXPECT_EQ(Put(Create("Program"), u"Variables", Variant(foreign.Get())).result,
+            DISP_E_TYPEMISMATCH);
+  foreign = {};
+  factory = {};
+  EXPECT_EQ(canUnload(), S_OK);
+  EXPECT_EQ(::dlclose(copy), 0);
+  EXPECT_EQ(::dlmopen(space, PRAXEN_LIBRARY_FILE, RTLD_NOW | RTLD_NOLOAD), nullptr);
+}
+
+#endif
+
+}  // namespace
+}  // namespace praxen::client

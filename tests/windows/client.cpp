@@ -1,0 +1,157 @@
+// A client compiled from the header that the type library's source gives: it calls through the
+// interface tables. With the file of a manifest as argument, nothing needs to be registered.
+#include <windows.h>
+
+// The identifiers of the header are defined here.
+#include <initguid.h>
+
+#include "PraxenHelper.h"
+
+#include <cstdio>
+#include <string>
+
+#include "praxen/platform/automation_values.h"
+
+namespace {
+
+using praxen::BStr;
+using praxen::ComPointer;
+
+int failures = 0;
+
+void Check(const char* what, bool holds) {
+  if (holds) return;
+  ++failures;
+  std::printf("FAILED %s\n", what);
+}
+
+template <class I>
+ComPointer<I> Create(REFCLSID clsid) {
+  ComPointer<I> object;
+  CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, __uuidof(I),
+                   reinterpret_cast<void**>(object.Receive()));
+  return object;
+}
+
+std::u16string NameOf(ITypeInfo* information) {
+  BStr name;
+  if (information == nullptr) return {};
+  information->GetDocumentation(MEMBERID_NIL, name.Receive(), nullptr, nullptr, nullptr);
+  return std::u16string(name.View());
+}
+
+void UseObjects() {
+  const auto program = Create<_Program>(CLSID_Program);
+  Check("program", static_cast<bool>(program));
+  if (!program) return;
+  Check("name", program->put_Name(BStr(u"Main").Get()) == S_OK);
+  ComPointer<_Variables> variables;
+  Check("variables", program->get_Variables(variables.Receive()) == S_OK);
+  ComPointer<_Variable> variable;
+  Check("Add1",
+        variables->Add1(BStr(u"Level").Get(), BStr(u"real").Get(), variable.Receive()) == S_OK);
+  ComPointer<_CodeBlocks> blocks;
+  Check("blocks", program->get_CodeBlocks(blocks.Receive()) == S_OK);
+  const BStr code(u"Level := 1.0;");
+  BSTR text = code.Get();
+  ComPointer<_STCodeBlock> block;
+  Check("by reference",
+        blocks->AddSTCodeBlock2(BStr(u"Code").Get(), &text, block.Receive()) == S_OK);
+  ComPointer<_ICodeBlock> kind;
+  Check("item", blocks->get_Item(1, kind.Receive()) == S_OK);
+  VARIANT_BOOL is = VARIANT_FALSE;
+  Check("kind", kind->get_IsSTCodeBlock(&is) == S_OK && is == VARIANT_TRUE);
+  Check("class of kind", kind.As<_STCodeBlock>(__uuidof(_STCodeBlock)).Get() == block.Get());
+
+  BStr document;
+  Check("Serialize", program->Serialize(document.Receive()) == S_OK);
+  const auto factory = Create<_ObjectFactory>(CLSID_ObjectFactory);
+  BSTR xml = document.Get();
+  ComPointer<_Program> copy;
+  Check("Deserialize", factory->DeserializeProgram(&xml, copy.Receive()) == S_OK);
+  BStr again;
+  Check("copy",
+        copy && copy->Serialize(again.Receive()) == S_OK && again.View() == document.View());
+}
+
+void UseEnumerations() {
+  const auto task = Create<_Task>(CLSID_Task);
+  TaskPriorityValue priority = pxTaskPriority0;
+  Check("enumeration", task->put_Priority(pxTaskPriority3) == S_OK &&
+                           task->get_Priority(&priority) == S_OK && priority == pxTaskPriority3);
+}
+
+void UseErrors() {
+  const auto variable = Create<_Variable>(CLSID_Variable);
+  const auto support = variable.As<ISupportErrorInfo>(IID_ISupportErrorInfo);
+  Check("error support",
+        support && support->InterfaceSupportsErrorInfo(__uuidof(_Variable)) == S_OK);
+  BStr document;
+  Check("required fields",
+        variable->Serialize(document.Receive()) == static_cast<HRESULT>(0x80040259));
+  ComPointer<IErrorInfo> information;
+  BStr description;
+  Check("error information", GetErrorInfo(0, information.Receive()) == S_OK &&
+                                 information->GetDescription(description.Receive()) == S_OK &&
+                                 description.View() == u"Required fields empty");
+}
+
+void UseTypeInformation() {
+  const auto message = Create<_ErrorMsg>(CLSID_ErrorMsg);
+  ComPointer<ITypeInfo> information;
+  UINT count = 0;
+  Check("type information count", message->GetTypeInfoCount(&count) == S_OK && count == 1);
+  Check("type information", message->GetTypeInfo(0, 0, information.Receive()) == S_OK &&
+                                NameOf(information.Get()) == u"_ErrorMsg");
+  Check("type information index",
+        message->GetTypeInfo(1, 0, information.Receive()) == DISP_E_BADINDEX);
+  const auto provider = message.As<IProvideClassInfo2>(IID_IProvideClassInfo2);
+  Check("class information", provider && provider->GetClassInfo(information.Receive()) == S_OK &&
+                                 NameOf(information.Get()) == u"ErrorMsg");
+  GUID source = IID_IUnknown;
+  Check("no events", provider && FAILED(provider->GetGUID(1, &source)) && source == GUID_NULL);
+
+  // The identifiers that calls by name use are those of the type library.
+  LPOLESTR name = const_cast<LPOLESTR>(L"ErrorNo");
+  DISPID called = 0;
+  MEMBERID listed = 0;
+  Check("identifiers", message->GetTypeInfo(0, 0, information.Receive()) == S_OK &&
+                           message->GetIDsOfNames(IID_NULL, &name, 1, 0, &called) == S_OK &&
+                           information->GetIDsOfNames(&name, 1, &listed) == S_OK &&
+                           called == listed);
+}
+
+void UseRefusals() {
+  ComPointer<IUnknown> none;
+  Check("kinds are not creatable",
+        FAILED(CoCreateInstance(CLSID_ICodeBlock, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
+                                reinterpret_cast<void**>(none.Receive()))));
+}
+
+// Makes the classes of a manifest known to this thread.
+bool Activate(const std::wstring& manifest) {
+  ACTCTXW context = {};
+  context.cbSize = sizeof context;
+  context.lpSource = manifest.c_str();
+  ULONG_PTR cookie = 0;
+  const HANDLE handle = CreateActCtxW(&context);
+  return handle != INVALID_HANDLE_VALUE && ActivateActCtx(handle, &cookie);
+}
+
+}  // namespace
+
+int wmain(int count, wchar_t** arguments) {
+  CoInitialize(nullptr);
+  if (count > 1) Check("manifest", Activate(arguments[1]));
+  UseObjects();
+  if (failures == 0) {
+    UseEnumerations();
+    UseErrors();
+    UseTypeInformation();
+    UseRefusals();
+  }
+  CoFreeUnusedLibraries();
+  CoUninitialize();
+  std::puts(failures == 0 ? "passed" : "failed");
+  return failures == 0 ? 0 : 1;
+}
