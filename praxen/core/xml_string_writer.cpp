@@ -1,8 +1,8 @@
 // The markup that the writer appends, and its escaping.
 #include "praxen/core/xml_string_writer.h"
 
-#include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 
 #include "praxen/core/error.h"
@@ -35,17 +35,49 @@ constexpr std::u16string_view Reference(char16_t character, bool attribute) {
 }
 
 template <bool Attribute>
-constexpr std::array<bool, 64> kEscaped = [] {
-  std::array<bool, 64> escaped{};
-  for (char16_t character = 0; character < 64; ++character) {
-    escaped[character] = !Reference(character, Attribute).empty();
-  }
-  return escaped;
-}();
+constexpr bool IsEscaped(char16_t character) {
+  return !Reference(character, Attribute).empty();
+}
+
+// Characters that are looked at together.
+using Block = uint16_t __attribute__((vector_size(16)));
+constexpr size_t kBlock = sizeof(Block) / sizeof(char16_t);
+
+Block IsEach(Block block, uint16_t character) {
+  const Block wanted = {character, character, character, character,
+                        character, character, character, character};
+  return reinterpret_cast<Block>(block == wanted);
+}
 
 template <bool Attribute>
-bool IsEscaped(char16_t character) {
-  return character < 64 && kEscaped<Attribute>[character];
+bool BlockHasEscaped(const char16_t* characters) {
+  Block block;
+  std::memcpy(&block, characters, sizeof block);
+  Block found = IsEach(block, u'&') | IsEach(block, u'<') | IsEach(block, u'>');
+  if constexpr (Attribute) found |= IsEach(block, u'"') | IsEach(block, u'\'');
+  std::array<uint64_t, 2> halves;
+  std::memcpy(halves.data(), &found, sizeof found);
+  return (halves[0] | halves[1]) != 0;
+}
+
+// The index of the first character that must be escaped, or the length.
+template <bool Attribute>
+size_t FindEscaped(std::u16string_view value) {
+  const size_t size = value.size();
+  size_t at = 0;
+  while (at + kBlock <= size && !BlockHasEscaped<Attribute>(value.data() + at)) at += kBlock;
+  // The last block may overlap the one before.
+  if (size >= kBlock && at + kBlock > size &&
+      !BlockHasEscaped<Attribute>(value.data() + size - kBlock)) {
+    return size;
+  }
+  while (at < size && !IsEscaped<Attribute>(value[at])) ++at;
+  return at;
+}
+
+char16_t* Copy(std::u16string_view characters, char16_t* to) {
+  std::memcpy(to, characters.data(), characters.size() * sizeof(char16_t));
+  return to + characters.size();
 }
 
 }  // namespace
@@ -88,12 +120,14 @@ void XMLStringWriter::WriteEndElement(std::u16string_view name) {
 }
 
 void XMLStringWriter::WriteAttributeString(std::u16string_view name, std::u16string_view value) {
-  char16_t* end = buffer_.Extend(name.size() + 3);
+  const size_t plain = FindEscaped<true>(value);
+  char16_t* end = buffer_.Extend(name.size() + plain + 3);
   *end++ = u' ';
-  end = std::copy(name.begin(), name.end(), end);
+  end = Copy(name, end);
   *end++ = u'=';
-  *end = u'\'';
-  WriteEscaped<true>(value);
+  *end++ = u'\'';
+  Copy(value.substr(0, plain), end);
+  if (plain < value.size()) WriteEscaped<true>(value.substr(plain));
   *buffer_.Extend(1) = u'\'';
 }
 
@@ -137,17 +171,15 @@ void XMLStringWriter::OpenElement() {
   start_tag_open_ = element_empty_ = true;
 }
 
-// Runs without a character to escape are copied whole, so a value is read once.
+// Runs without a character to escape are copied whole.
 template <bool Attribute>
 void XMLStringWriter::WriteEscaped(std::u16string_view value) {
-  const auto* run = value.data();
-  const auto* const end = run + value.size();
   for (;;) {
-    const auto* const stop = std::find_if(run, end, IsEscaped<Attribute>);
-    buffer_.Append({run, static_cast<size_t>(stop - run)});
-    if (stop == end) return;
-    buffer_.Append(Reference(*stop, Attribute));
-    run = stop + 1;
+    const size_t plain = FindEscaped<Attribute>(value);
+    buffer_.Append(value.substr(0, plain));
+    if (plain == value.size()) return;
+    buffer_.Append(Reference(value[plain], Attribute));
+    value.remove_prefix(plain + 1);
   }
 }
 

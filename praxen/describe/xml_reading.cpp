@@ -4,6 +4,7 @@
 #include "praxen/core/error.h"
 #include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
+#include "praxen/describe/shared_texts.h"
 
 namespace praxen {
 
@@ -13,7 +14,7 @@ bool TextToBoolean(std::u16string_view text) { return text == u"1" || text == u"
 
 void SetText(Text& value, std::u16string_view text) {
   // Most attributes hold what a new object holds.
-  if (value.view() != text) value = text;
+  if (value.view() != text) value = SharedTexts::Instance().Share(text);
 }
 
 Error MissingAttribute(const XmlNode& node, std::u16string_view name) {

@@ -95,9 +95,12 @@ bool IsOfChosenClass(const Object& element, const Layout& list) {
   return false;
 }
 
+// A client's own element may change the list while it is asked for its kind.
 void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) {
-  const bool mixed = !list.elements.empty() && list.elements.front().isKind != nullptr;
-  for (const Ref<Object>& element : *object.elements()) {
+  const std::vector<Ref<Object>>& elements = *object.elements();
+  const bool mixed = list.elements.front().isKind != nullptr;
+  for (size_t i = 0; i < elements.size(); ++i) {
+    const Ref<Object> element = elements[i];
     if (mixed && !IsOfChosenClass(*element, list)) continue;
     element->WriteXML(writer);
   }

@@ -8,6 +8,7 @@
 
 #include "praxen/core/error.h"
 #include "praxen/core/library.h"
+#include "praxen/describe/shared_texts.h"
 #include "praxen/factory/embedded_schema.h"
 #include "praxen/platform/module_folder.h"
 
@@ -55,7 +56,10 @@ LoadedDocument::LoadedDocument(const Text& XMLStr) {
   throw InvalidXml(error.reason, error.position);
 }
 
-LoadedDocument::~LoadedDocument() { GetReaderDocument().clear(); }
+LoadedDocument::~LoadedDocument() {
+  SharedTexts::Instance().Clear();
+  GetReaderDocument().clear();
+}
 
 XmlNode LoadedDocument::root() const { return GetReaderDocument().documentElement(); }
 

@@ -1,0 +1,33 @@
+// Texts that are shared among the objects read from one document.
+#ifndef PRAXEN_DESCRIBE_SHARED_TEXTS_H_
+#define PRAXEN_DESCRIBE_SHARED_TEXTS_H_
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+#include "praxen/core/text.h"
+
+namespace praxen {
+
+/// The short texts met last, so that the names of types and tasks, which repeat all over a
+/// document, are stored once. Only a text that equals an earlier one is shared; which ones are
+/// remembered changes nothing but memory.
+class SharedTexts {
+ public:
+  /// Those of the one document that is being read.
+  static SharedTexts& Instance();
+
+  Text Share(std::u16string_view characters);
+  void Clear() noexcept;
+
+ private:
+  static constexpr size_t kLongest = 32;
+  static constexpr size_t kPlaces = 256;
+
+  std::array<Text, kPlaces> texts_;
+};
+
+}  // namespace praxen
+
+#endif  // PRAXEN_DESCRIBE_SHARED_TEXTS_H_
