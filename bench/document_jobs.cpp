@@ -1,0 +1,130 @@
+// Which documents are measured against which peers, and how often.
+#include "bench/document_jobs.h"
+
+#include <stdexcept>
+
+#include "bench/documents.h"
+#include "bench/peers.h"
+
+namespace praxen::bench {
+namespace {
+
+constexpr int kRounds = 7;
+constexpr int kGrowthRounds = 3;
+
+struct Peer {
+  std::string name;
+  Reader read;
+};
+
+std::vector<Peer> ReadingPeers(bool isProgram) {
+  std::vector<Peer> peers{{"xerces sax2", XercesReader()},
+                          {"libxml2 dom", Libxml2Reader()},
+                          {"pugixml", PugixmlReader()}};
+  if (isProgram) peers.push_back({"c++/tree", TreeReader()});
+  return peers;
+}
+
+template <class Class>
+Job WritingJob(const std::string& task, const Ref<Class>& object, size_t amount) {
+  return {task, std::string(kOurs), amount,
+          [object] { return std::make_shared<Text>(object->Serialize()); }};
+}
+
+template <class Class>
+Job ReadingJob(const std::string& task, const std::vector<Text>& texts, size_t amount) {
+  return {task, std::string(kOurs), amount, [texts] {
+            auto objects = std::make_shared<std::vector<Ref<Class>>>();
+            for (const Text& text : texts) objects->push_back(Deserialization<Class>()(text));
+            return objects;
+          }};
+}
+
+Job PeerJob(const std::string& task, const Peer& peer, const std::vector<Text>& texts,
+            size_t amount) {
+  return {task, peer.name, amount, [read = peer.read, texts] {
+            auto parsed = std::make_shared<std::vector<std::shared_ptr<Parsed>>>();
+            for (const Text& text : texts) parsed->push_back(read(text));
+            return parsed;
+          }};
+}
+
+// Peers that disagree about a document are not comparable.
+void RequireAgreement(const std::vector<Peer>& peers, const Text& text) {
+  const size_t elements = peers.front().read(text)->elements();
+  for (const Peer& peer : peers) {
+    if (peer.read(text)->elements() != elements) {
+      throw std::runtime_error(peer.name + " reads another number of elements");
+    }
+  }
+}
+
+template <class Class>
+void AddReading(std::vector<Job>& jobs, const std::string& task, const std::vector<Text>& texts) {
+  size_t amount = 0;
+  for (const Text& text : texts) amount += text.size();
+  jobs.push_back(ReadingJob<Class>(task, texts, amount));
+  const std::vector<Peer> peers = ReadingPeers(std::is_same_v<Class, Program>);
+  RequireAgreement(peers, texts.front());
+  for (const Peer& peer : peers) jobs.push_back(PeerJob(task, peer, texts, amount));
+}
+
+template <class Class>
+void AddDocument(std::vector<Job>& jobs, const std::string& name, const Ref<Class>& object) {
+  const Text text = object->Serialize();
+  jobs.push_back(WritingJob(name + ", write", object, text.size()));
+  jobs.push_back({name + ", write", "pugixml", text.size(), PugixmlWriter(text)});
+  if constexpr (std::is_same_v<Class, Program>) {
+    jobs.push_back({name + ", write", "c++/tree", text.size(), TreeWriter(text)});
+  }
+  AddReading<Class>(jobs, name + ", read", {text});
+}
+
+template <class Class>
+void AddGrowth(std::vector<Result>& results, const std::string& name,
+               const std::vector<size_t>& sizes, Ref<Class> (*build)(size_t)) {
+  std::vector<Job> jobs;
+  for (const size_t size : sizes) {
+    const Ref<Class> object = build(size);
+    const Text text = object->Serialize();
+    const std::string suffix = ", " + std::to_string(size);
+    jobs.push_back(WritingJob(name + " write" + suffix, object, text.size()));
+    jobs.push_back(ReadingJob<Class>(name + " read" + suffix, {text}, text.size()));
+    jobs.push_back({name + " build" + suffix, std::string(kOurs), size,
+                    [build, size] { return std::make_shared<Ref<Class>>(build(size)); }});
+  }
+  for (const char* const operation : {" build", " write", " read"}) {
+    const std::string task = name + operation;
+    std::vector<Job> chosen;
+    for (const Job& job : jobs) {
+      if (job.task.starts_with(task + ",")) chosen.push_back(job);
+    }
+    for (Result& result : Measure(chosen, kGrowthRounds)) {
+      result.task = task;
+      results.push_back(result);
+    }
+  }
+}
+
+}  // namespace
+
+std::vector<Result> MeasureDocuments() {
+  std::vector<Job> jobs;
+  AddDocument(jobs, "program", BuildProgram(20'000));
+  AddDocument(jobs, "variables", BuildVariables(60'000));
+  AddDocument(jobs, "hardware", BuildHardware(200'000));
+  AddDocument(jobs, "messages", BuildMessages(100'000));
+  AddDocument(jobs, "constants", BuildConstants(100'000));
+  AddReading<Program>(jobs, "small, read", BuildSmallDocuments(10'000));
+  return Measure(jobs, kRounds);
+}
+
+std::vector<Result> MeasureGrowth() {
+  std::vector<Result> results;
+  AddGrowth<Program>(results, "program", {2'000, 20'000, 200'000}, &BuildProgram);
+  AddGrowth<HWUnit>(results, "hardware", {20'000, 200'000}, &BuildHardware);
+  AddGrowth<ProjectConstants>(results, "constants", {10'000, 100'000}, &BuildConstants);
+  return results;
+}
+
+}  // namespace praxen::bench

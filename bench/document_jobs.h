@@ -1,0 +1,18 @@
+// The jobs that write and read documents.
+#ifndef PRAXEN_BENCH_DOCUMENT_JOBS_H_
+#define PRAXEN_BENCH_DOCUMENT_JOBS_H_
+
+#include <vector>
+
+#include "bench/job.h"
+
+namespace praxen::bench {
+
+/// Writing and reading by us and by every peer.
+std::vector<Result> MeasureDocuments();
+/// Ten times the work after each other, by us.
+std::vector<Result> MeasureGrowth();
+
+}  // namespace praxen::bench
+
+#endif  // PRAXEN_BENCH_DOCUMENT_JOBS_H_
