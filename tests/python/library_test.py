@@ -1,0 +1,105 @@
+"""Where the library is looked for, and how a process ends that still uses it."""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+LIBRARY = os.environ["PRAXENHELPER_LIBRARY"]
+# What tells where the library is.
+SETTINGS = ("PRAXENHELPER_LIBRARY", "PRAXENHELPER_REGISTRY", "XDG_DATA_HOME", "HOME")
+
+CREATE = 'import praxenhelper; print(praxenhelper.Dispatch("PraxenHelper.Variable"))'
+CREATED = "<PraxenHelper.Variable object>\n"
+REGISTER = """
+import ctypes, sys
+sys.exit(ctypes.CDLL(sys.argv[1]).DllRegisterServer())
+"""
+# References in a module, a cycle, a frame that never returns and an error that is not caught.
+END = """
+import threading, time
+from praxenhelper import Dispatch
+program = Dispatch("PraxenHelper.Program")
+cycle = [program.Variables, iter(program.Variables), program.Variables.Add1]
+cycle.append(cycle)
+def hold(variable):
+    time.sleep(3600)
+threading.Thread(target=hold, args=(Dispatch("PraxenHelper.Variable"),), daemon=True).start()
+program.Serialize()
+"""
+ON_WINDOWS = 'import sys; sys.platform = "win32"; import praxenhelper'
+
+
+def run(code, *arguments, **environment):
+    others = {name: value for name, value in os.environ.items() if name not in SETTINGS}
+    return subprocess.run(
+        [sys.executable, "-B", "-c", code, *arguments],
+        env={**others, **environment},
+        capture_output=True,
+        text=True,
+        timeout=60,
+    )
+
+
+class LibraryTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+        self.registry = self.folder / "classes"
+
+    def test_the_environment_comes_first(self):
+        self.registry.write_text("PraxenHelper.Variable\t{}\t/nowhere.so\n")
+        done = run(CREATE, PRAXENHELPER_LIBRARY=LIBRARY, PRAXENHELPER_REGISTRY=str(self.registry))
+        self.assertEqual((done.stdout, done.stderr), (CREATED, ""))
+
+    def test_the_registered_library_is_found(self):
+        data = self.folder / ".local" / "share" / "praxenhelper"
+        for environment in (
+            {"PRAXENHELPER_REGISTRY": str(self.registry)},
+            {"XDG_DATA_HOME": str(self.folder / "data")},
+            {"HOME": str(self.folder)},
+        ):
+            with self.subTest(environment):
+                self.assertEqual(run(REGISTER, LIBRARY, **environment).returncode, 0)
+                done = run(CREATE, **environment)
+                self.assertEqual((done.stdout, done.stderr), (CREATED, ""))
+        self.assertTrue((data / "classes").exists())
+
+    def test_other_lines_of_the_registry_are_passed_over(self):
+        lines = (
+            b"\xef\xbb\xbfOther.Class\t{}\t/nowhere.so",
+            b"PraxenHelper.Variable\t{}",
+            b"PraxenHelper.Variable\t{}\trelative.so",
+            b"\xff\xfe\t\t\t",
+            b"praxenhelper.variable\t{}\t " + LIBRARY.encode() + b" \r",
+        )
+        self.registry.write_bytes(b"\n".join(lines))
+        done = run(CREATE, PRAXENHELPER_REGISTRY=str(self.registry))
+        self.assertEqual((done.stdout, done.stderr), (CREATED, ""))
+
+    def test_a_library_that_cannot_be_used_is_told(self):
+        (self.folder / "text.so").write_text("no library")
+        for library, number in (
+            (str(self.folder / "missing.so"), "0x800401F8"),
+            (str(self.folder / "text.so"), "0x800401F8"),
+            ("libc.so.6", "0x800401F9"),
+        ):
+            with self.subTest(library):
+                done = run(CREATE, PRAXENHELPER_LIBRARY=library)
+                self.assertEqual(done.returncode, 1)
+                self.assertIn(number, done.stderr.splitlines()[-1])
+
+    def test_a_process_ends_whatever_it_holds(self):
+        done = run(END, PRAXENHELPER_LIBRARY=LIBRARY)
+        self.assertEqual(done.returncode, 1, done.stderr)
+        last = done.stderr.splitlines()[-1]
+        self.assertTrue(last.endswith("Required fields empty (0x80040259)"), done.stderr)
+        self.assertNotIn("Exception ignored", done.stderr)
+
+    def test_windows_has_a_client_of_its_own(self):
+        done = run(ON_WINDOWS)
+        self.assertIn("ImportError", done.stderr)
+        self.assertIn("win32com", done.stderr)

@@ -1,0 +1,27 @@
+"""The plant that the C++ example and the Python example build: the same documents."""
+
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import unittest
+
+SCRIPT = pathlib.Path(__file__).parents[2] / "clients" / "python" / "examples" / "plant.py"
+
+
+def documents(command, folder):
+    subprocess.run([*command, str(folder)], check=True, stdout=subprocess.DEVNULL, timeout=120)
+    return {file.name: file.read_bytes() for file in folder.iterdir()}
+
+
+class PlantTest(unittest.TestCase):
+    def test_documents_are_the_same_to_the_byte(self):
+        with tempfile.TemporaryDirectory() as folder:
+            expected = documents([os.environ["PRAXEN_PLANT"]], pathlib.Path(folder, "c++"))
+            written = documents([sys.executable, "-B", SCRIPT], pathlib.Path(folder, "python"))
+        self.assertGreater(len(expected), 10)
+        self.assertEqual(written.keys(), expected.keys())
+        for name in expected:
+            with self.subTest(name):
+                self.assertEqual(written[name], expected[name])
