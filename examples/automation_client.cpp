@@ -11,18 +11,21 @@
 #include "praxen/platform/automation_values.h"
 #include "praxen/platform/class_registry.h"
 
+// The beginning of the interface of a list of variables, in slot order. It has linkage,
+// because a compiler that sees that no class of the program implements it would otherwise take a
+// call for impossible.
+struct IVariables : IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE Add(IDispatch* variable) = 0;
+  virtual HRESULT STDMETHODCALLTYPE AddBefore(IDispatch* variable, LONG position) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Add1(BSTR name, BSTR typeName, IDispatch** variable) = 0;
+};
+
 namespace {
 
 using praxen::BStr;
 using praxen::ComPointer;
 using praxen::Variant;
 
-// The beginning of the interface of a list of variables, in slot order.
-struct IVariables : IDispatch {
-  virtual HRESULT STDMETHODCALLTYPE Add(IDispatch* variable) = 0;
-  virtual HRESULT STDMETHODCALLTYPE AddBefore(IDispatch* variable, LONG position) = 0;
-  virtual HRESULT STDMETHODCALLTYPE Add1(BSTR name, BSTR typeName, IDispatch** variable) = 0;
-};
 constexpr IID kVariables = {
     0x50EB369B, 0x3CAB, 0x5C69, {0x84, 0x12, 0x06, 0x99, 0xDF, 0xC0, 0xDA, 0x61}};
 

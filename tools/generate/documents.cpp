@@ -3,12 +3,14 @@
 
 #include "praxen/describe/schema.h"
 #include "praxen/describe/type_library.h"
+#include "praxen/server/manifest.h"
 
 namespace praxen {
 
 std::vector<GeneratedFile> GenerateFiles() {
   return {{"schema/PraxenSchema3_0.xsd", GenerateSchema()},
           {"praxen/server/PraxenHelper.idl", GenerateTypeLibrary()},
+          {"praxen/server/PraxenHelper.manifest", GenerateManifest()},
           {"docs/xml-format.md", XmlFormatDocument()},
           {"docs/api.md", ApiDocument()}};
 }

@@ -1,4 +1,4 @@
-// Tests of the command line "praxen", run as a user runs it.
+// Tests of the command line "praxen", run by the shell as a user runs it.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -58,11 +58,7 @@ class CommandLine : public testing::Test {
     std::string command = Quoted(PRAXEN_COMMAND_LINE_FILE) + ' ' + arguments + " <" +
                           Quoted(File("in")) + " >" + Quoted(File("out")) + " 2>" +
                           Quoted(File("err"));
-#ifdef _WIN32
-    const int exitCode = std::system(Quoted(command).c_str());
-#else
     const int exitCode = WEXITSTATUS(std::system(command.c_str()));
-#endif
     return {exitCode, ReadFile(folder_ / "out"), ReadFile(folder_ / "err")};
   }
 
