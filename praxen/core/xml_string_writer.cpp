@@ -76,8 +76,7 @@ size_t FindEscaped(std::u16string_view value) {
 }
 
 char16_t* Copy(std::u16string_view characters, char16_t* to) {
-  std::memcpy(to, characters.data(), characters.size() * sizeof(char16_t));
-  return to + characters.size();
+  return to + characters.copy(to, characters.size());
 }
 
 }  // namespace
