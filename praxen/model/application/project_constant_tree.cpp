@@ -75,6 +75,8 @@ void intProjectConstants::AddRecursive(intProjectConstant& level, std::u16string
 
 void intProjectConstants::Write(XMLStringWriter& writer, const ProjectConstants& list) {
   if (list.Count() == 0) return;
+  // Most entries are constants; the groups come on top.
+  places_.reserve(static_cast<size_t>(list.Count()) / 8 * 9);
   intProjectConstant& root = NewLevel(nullptr);
   for (const ProjectConstant& constant : list) {
     AddRecursive(root, constant.Name.get(), constant.PCType, constant.Value);
