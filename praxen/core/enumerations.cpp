@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "praxen/core/entity_name.h"
+#include "praxen/platform/automation_text.h"
 
 namespace praxen {
 
@@ -111,15 +112,6 @@ constexpr const EnumerationDescription* kAll[] = {&Description<AutoPosValue>::va
                                                   &Description<TaskSILLevelValue>::value,
                                                   &Description<VisibilityInGraphicsValue>::value};
 
-constexpr char16_t ToLower(char16_t character) {
-  return character >= u'A' && character <= u'Z' ? static_cast<char16_t>(character + 32) : character;
-}
-
-bool EqualIgnoringCase(std::u16string_view left, std::u16string_view right) {
-  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                    [](char16_t l, char16_t r) { return ToLower(l) == ToLower(r); });
-}
-
 template <class E>
 E FromText(std::u16string_view text) {
   return static_cast<E>(DescribeEnumeration<E>().FromText(text));
@@ -137,7 +129,7 @@ int32_t EnumerationDescription::FromText(std::u16string_view text) const noexcep
     if (constant.text == text) return constant.value;
   }
   for (const EnumerationConstant& spelling : spellings) {
-    if (EqualIgnoringCase(spelling.text, text)) return spelling.value;
+    if (EqualsIgnoringCase(spelling.text, text)) return spelling.value;
   }
   return otherwise;
 }

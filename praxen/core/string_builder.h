@@ -57,8 +57,6 @@ class CStringBuilder {
     length_ += count;
     return end;
   }
-  /// Gives back the last `count` characters.
-  void Shorten(size_t count) noexcept { length_ -= count; }
 
   /// Makes room for the given bytes and returns the capacity.
   int32_t EnsureCapacity(int32_t bytes);

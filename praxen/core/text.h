@@ -143,7 +143,7 @@ template <TextLiteral Literal>
 struct StaticText {
   template <size_t Size>
   static constexpr StaticTextBlock<Size> Make(const TextLiteral<Size>& literal) {
-    StaticTextBlock<Size> block{{{0}, Size - 1}, {}};
+    StaticTextBlock<Size> block{{0, Size - 1}, {}};
     for (size_t i = 0; i < Size; ++i) block.characters[i] = literal.characters[i];
     return block;
   }

@@ -3,19 +3,11 @@
 
 #include <algorithm>
 
+#include "praxen/platform/automation_text.h"
+
 namespace praxen {
 
 namespace {
-
-constexpr char16_t ToLower(char16_t character) {
-  return character >= u'A' && character <= u'Z' ? static_cast<char16_t>(character + 32) : character;
-}
-
-bool IsName(std::string_view name, std::u16string_view given) {
-  return std::equal(name.begin(), name.end(), given.begin(), given.end(), [](char n, char16_t g) {
-    return ToLower(static_cast<char16_t>(n)) == ToLower(g);
-  });
-}
 
 void AppendMembers(std::vector<const void*>& table, const Members& members) {
   for (const Member& member : members) {
@@ -46,7 +38,7 @@ ClassDescription::ClassDescription(ClassFacts facts) : ClassFacts(std::move(fact
 
 const Member* ClassDescription::FindMember(std::u16string_view memberName) const noexcept {
   const auto found = std::ranges::find_if(
-      members, [&](const Member& member) { return IsName(member.name, memberName); });
+      members, [&](const Member& member) { return EqualsIgnoringCase(member.name, memberName); });
   if (found != members.end()) return &*found;
   return kind == nullptr ? nullptr : kind->FindMember(memberName);
 }
@@ -59,7 +51,7 @@ const Member* ClassDescription::FindMember(int32_t id) const noexcept {
 
 const ClassDescription* FindClass(std::u16string_view name) noexcept {
   for (const auto describe : AllClasses()) {
-    if (IsName(describe().name, name)) return &describe();
+    if (EqualsIgnoringCase(describe().name, name)) return &describe();
   }
   return nullptr;
 }

@@ -26,9 +26,7 @@ std::u16string_view ViewOfName(LPOLESTR name) {
 
 DISPID ParameterId(const Member& member, std::u16string_view name) {
   const auto isNamed = [&](const MemberParameter& parameter) {
-    return std::ranges::equal(name, parameter.name, [](char16_t left, char right) {
-      return ToLowerAscii(left) == static_cast<char16_t>(ToLowerAscii(right));
-    });
+    return EqualsIgnoringCase(name, parameter.name);
   };
   const auto found = std::ranges::find_if(member.parameters, isNamed);
   return found == member.parameters.end() ? DISPID_UNKNOWN

@@ -158,7 +158,7 @@ std::u16string ElementName() {
 namespace layout_detail {
 
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Attribute Make(Rule rule, std::u16string_view name) {
+Attribute Make(Rule rule, std::u16string_view name) {
   using Slots = PropertySlots<Pointer>;
   constexpr std::string_view property = EntityName<Pointer>();
   return {name.empty() ? ToUtf16(property) : std::u16string(name), rule,
@@ -170,23 +170,23 @@ template <auto Pointer>
 // The attributes are named like their properties unless a name is given.
 
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Attribute required(std::u16string_view name = {}) {
+Attribute required(std::u16string_view name = {}) {
   return layout_detail::Make<Pointer>(Rule::Required, name);
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Attribute always(std::u16string_view name = {}) {
+Attribute always(std::u16string_view name = {}) {
   return layout_detail::Make<Pointer>(Rule::Always, name);
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Attribute optional(std::u16string_view name = {}) {
+Attribute optional(std::u16string_view name = {}) {
   return layout_detail::Make<Pointer>(Rule::Optional, name);
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Attribute unlessEmpty(std::u16string_view name = {}) {
+Attribute unlessEmpty(std::u16string_view name = {}) {
   return layout_detail::Make<Pointer>(Rule::UnlessEmpty, name);
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Attribute readOnly(std::u16string_view name = {}) {
+Attribute readOnly(std::u16string_view name = {}) {
   return layout_detail::Make<Pointer>(Rule::ReadOnly, name);
 }
 inline Attribute ReadIfPresent(Attribute attribute) {
@@ -196,8 +196,7 @@ inline Attribute ReadIfPresent(Attribute attribute) {
 
 /// The attributes of a type's head, followed by the others.
 template <class Class>
-[[gnu::noinline, gnu::cold]] std::vector<Attribute> POUHeader(
-    std::initializer_list<Attribute> others = {}) {
+std::vector<Attribute> POUHeader(std::initializer_list<Attribute> others = {}) {
   std::vector<Attribute> attributes{required<&Class::Name>(), optional<&Class::Protected>(),
                                     optional<&Class::Hidden>(), optional<&Class::Scope>()};
   attributes.insert(attributes.end(), others);
@@ -207,7 +206,7 @@ template <class Class>
 namespace layout_detail {
 
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child Make(ChildKind kind) {
+Child Make(ChildKind kind) {
   using Slots = PropertySlots<Pointer>;
   Child child{kind};
   child.storage = &Slots::Address;
@@ -231,35 +230,35 @@ template <auto Pointer>
 }  // namespace layout_detail
 
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child list() {
+Child list() {
   return layout_detail::Make<Pointer>(ChildKind::List);
 }
 /// A list that always writes its element elsewhere, and here only when it is not empty.
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child listUnlessEmpty() {
+Child listUnlessEmpty() {
   Child child = list<Pointer>();
   child.leaveOutEmpty = true;
   return child;
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child items() {
+Child items() {
   return layout_detail::Make<Pointer>(ChildKind::Items);
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child object() {
+Child object() {
   return layout_detail::Make<Pointer>(ChildKind::Object);
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child unnamed() {
+Child unnamed() {
   return layout_detail::Make<Pointer>(ChildKind::Unnamed);
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child text() {
+Child text() {
   return layout_detail::Make<Pointer>(ChildKind::Text);
 }
 /// A text in an element inside another element.
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child textIn(std::u16string_view element, std::u16string_view inner) {
+Child textIn(std::u16string_view element, std::u16string_view inner) {
   Child child = text<Pointer>();
   child.name = element;
   child.inner = inner;
@@ -267,7 +266,7 @@ template <auto Pointer>
 }
 /// A text whose element is written also when the text is empty.
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child textAlways(std::u16string_view name = {}) {
+Child textAlways(std::u16string_view name = {}) {
   Child child = text<Pointer>();
   if (!name.empty()) child.name = name;
   child.always = true;
@@ -275,13 +274,13 @@ template <auto Pointer>
 }
 /// A text that must be the next node, if there is one.
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child strictText() {
+Child strictText() {
   Child child = text<Pointer>();
   child.strict = true;
   return child;
 }
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Child content() {
+Child content() {
   return layout_detail::Make<Pointer>(ChildKind::Content);
 }
 
@@ -299,8 +298,7 @@ struct ClassOf<T C::*> {
 /// Children that the class writes and reads itself, with `void Write(XMLStringWriter&)` and
 /// `void Read(XmlNode& cursor)`, which moves the cursor behind what it reads.
 template <auto Write, auto Read>
-[[gnu::noinline, gnu::cold]] Child custom(std::string_view explanation,
-                                          std::vector<ElementShape> shapes) {
+Child custom(std::string_view explanation, std::vector<ElementShape> shapes) {
   Child child{ChildKind::Custom};
   child.shapes = std::move(shapes);
   child.writeXML = [](Object& object, XMLStringWriter& writer) {
@@ -315,12 +313,12 @@ template <auto Write, auto Read>
 
 /// The elements of a list that are all of one class.
 template <class Class>
-[[gnu::noinline, gnu::cold]] Choice choice() {
+Choice choice() {
   return {&Describe<Class>, &ElementName<Class>, [] { return Ref<Object>(New<Class>()); }};
 }
 /// Elements of a kind that answer true to `IsKind`.
 template <class Class, class Kind, bool (Kind::*IsKind)() const>
-[[gnu::noinline, gnu::cold]] Choice choice() {
+Choice choice() {
   Choice made = choice<Class>();
   made.isKind = [](const Object& element) { return (static_cast<const Kind&>(element).*IsKind)(); };
   return made;
@@ -328,7 +326,7 @@ template <class Class, class Kind, bool (Kind::*IsKind)() const>
 
 /// Elements of a kind that answered true to no choice before.
 template <class Class>
-[[gnu::noinline, gnu::cold]] Choice otherwise() {
+Choice otherwise() {
   Choice made = choice<Class>();
   made.isKind = [](const Object&) { return true; };
   return made;

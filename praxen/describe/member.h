@@ -67,7 +67,7 @@ class Members : public std::vector<Member> {
 
 /// A property that is a data member. One of type `ReadOnly` is published without a setter.
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Member property(std::string_view help = {}) {
+Member property(std::string_view help = {}) {
   using Slots = PropertySlots<Pointer>;
   Member member;
   member.name = EntityName<Pointer>();
@@ -89,15 +89,15 @@ inline Member PutFirst(Member member) {
 
 /// A property whose setter stands before its getter in the interface.
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Member propertyPutFirst(std::string_view help = {}) {
+Member propertyPutFirst(std::string_view help = {}) {
   return PutFirst(property<Pointer>(help));
 }
 
 namespace member_detail {
 
 template <class Operation, uint32_t ByReference>
-[[gnu::noinline, gnu::cold]] Member Make(std::string_view name, std::string_view help,
-                                         const std::vector<std::string_view>& parameters) {
+Member Make(std::string_view name, std::string_view help,
+            const std::vector<std::string_view>& parameters) {
   using Slots = OperationSlots<Operation, ByReference>;
   Member member;
   member.name = name;
@@ -116,8 +116,7 @@ template <class Operation, uint32_t ByReference>
 
 /// A method; `parameters` are the published names.
 template <auto Pointer, uint32_t ByReference = 0>
-[[gnu::noinline, gnu::cold]] Member method(std::string_view help,
-                                           const std::vector<std::string_view>& parameters = {}) {
+Member method(std::string_view help, const std::vector<std::string_view>& parameters = {}) {
   Member member = member_detail::Make<MemberOperation<Pointer>, ByReference>(EntityName<Pointer>(),
                                                                              help, parameters);
   member.isMethod = true;
@@ -126,14 +125,13 @@ template <auto Pointer, uint32_t ByReference = 0>
 
 /// A property that is computed and can only be read; it may have parameters.
 template <auto Pointer>
-[[gnu::noinline, gnu::cold]] Member computed(std::string_view help,
-                                             const std::vector<std::string_view>& parameters = {}) {
+Member computed(std::string_view help, const std::vector<std::string_view>& parameters = {}) {
   return member_detail::Make<MemberOperation<Pointer>, 0>(EntityName<Pointer>(), help, parameters);
 }
 
 /// A property behind a pair of functions.
 template <auto Getter, auto Setter>
-[[gnu::noinline, gnu::cold]] Member accessors(std::string_view name, std::string_view help) {
+Member accessors(std::string_view name, std::string_view help) {
   using Setting = OperationSlots<MemberOperation<Setter>, 0>;
   Member member = member_detail::Make<MemberOperation<Getter>, 0>(name, help, {});
   member.put = Setting::Slots::Function();
@@ -143,7 +141,7 @@ template <auto Getter, auto Setter>
 
 /// A method that is a callable constant of the class; the constant knows its parameters.
 template <class Class, const auto& Callable>
-[[gnu::noinline, gnu::cold]] Member operation(std::string_view help = {}) {
+Member operation(std::string_view help = {}) {
   using Type = std::remove_cvref_t<decltype(Callable)>;
   Member member = member_detail::Make<ConstantOperation<Class, Callable>, Type::kByReference>(
       EntityName<&Callable>(), help.empty() ? Type::Help() : help, Type::ParameterNames());
@@ -153,7 +151,7 @@ template <class Class, const auto& Callable>
 
 /// A method that creates an object as `Form` tells.
 template <class Operation, class Form>
-[[gnu::noinline, gnu::cold]] Member creatingMember(std::string_view name) {
+Member creatingMember(std::string_view name) {
   Member member = member_detail::Make<Operation, Form::kByReference>(name, Form::Help(),
                                                                      Form::ParameterNames());
   member.isMethod = true;

@@ -111,10 +111,6 @@ std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view nam
   return FirstText(node);
 }
 
-std::u16string_view ReadDescription(const XmlNode& node) {
-  return ReadTextElement(node, u"Description");
-}
-
 void ReadItems(Object& list, const Layout& layout, XmlNode node) {
   for (; node; node = node.nextSibling()) {
     for (const Choice& choice : layout.elements) {

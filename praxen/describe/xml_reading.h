@@ -27,7 +27,6 @@ bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name);
 /// The text of an element that holds only text, empty without a node; raises `WrongElementName`
 /// when the node has another name.
 std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name);
-std::u16string_view ReadDescription(const XmlNode& node);
 
 /// Where the node stands in the document, for errors.
 Place PlaceOf(const XmlNode& node);

@@ -214,8 +214,10 @@ class ToTruth {
   HRESULT operator()(Truth truth) const { return Store(truth.value); }
 
   HRESULT operator()(std::u16string_view text) const {
-    if (EqualsIgnoringCase<char16_t>(text, u"True") || text == u"#TRUE#") return Store(true);
-    if (EqualsIgnoringCase<char16_t>(text, u"False") || text == u"#FALSE#") return Store(false);
+    if (EqualsIgnoringCase<char16_t, char16_t>(text, u"True") || text == u"#TRUE#")
+      return Store(true);
+    if (EqualsIgnoringCase<char16_t, char16_t>(text, u"False") || text == u"#FALSE#")
+      return Store(false);
     return FromNumber(text);
   }
 

@@ -15,10 +15,12 @@ constexpr Char ToLowerAscii(Char c) {
 }
 
 // Whether two texts are equal but for the case of their ASCII letters.
-template <class Char>
-constexpr bool EqualsIgnoringCase(std::basic_string_view<Char> a, std::basic_string_view<Char> b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](Char x, Char y) { return ToLowerAscii(x) == ToLowerAscii(y); });
+template <class CharA, class CharB>
+constexpr bool EqualsIgnoringCase(std::basic_string_view<CharA> a,
+                                  std::basic_string_view<CharB> b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](CharA x, CharB y) {
+    return static_cast<char32_t>(ToLowerAscii(x)) == static_cast<char32_t>(ToLowerAscii(y));
+  });
 }
 
 }  // namespace praxen
