@@ -12,6 +12,10 @@ namespace praxen {
 namespace {
 
 constexpr int64_t kMostBytes = std::numeric_limits<int32_t>::max();
+constexpr size_t kMostCharacters = static_cast<size_t>(kMostBytes) / sizeof(char16_t);
+
+// A shorter text is copied, so that it does not keep storage that is mostly unused.
+constexpr size_t kShortestShared = 32768;
 
 int32_t RoundUp(int64_t bytes, int32_t step) {
   const int64_t rounded = (bytes + step - 1) / step * step;
@@ -33,10 +37,9 @@ void CStringBuilder::Capacity(int32_t bytes) {
   if (bytes <= 0) return;
   const int32_t capacity = RoundUp(bytes, growth_step_);
   const size_t characters = static_cast<size_t>(capacity) / sizeof(char16_t);
-  Reserve(characters);
+  if (characters > storage_.capacity()) storage_.Reserve(characters, length_);
   capacity_ = capacity;
-  logical_ = characters;
-  length_ = std::min(length_, characters);
+  CutTo(std::min(length_, characters));
 }
 
 void CStringBuilder::Chars(int32_t index, std::u16string_view character) {
@@ -45,7 +48,8 @@ void CStringBuilder::Chars(int32_t index, std::u16string_view character) {
                            u"Tried assigning character past end of buffer."_text);
   }
   if (character.empty()) throw InvalidArgument();
-  characters_[static_cast<size_t>(index)] = character.front();
+  Own();
+  storage_.data()[index] = character.front();
 }
 
 Text CStringBuilder::Chars(int32_t index) const {
@@ -63,7 +67,7 @@ void CStringBuilder::Length(int32_t characters) {
     const size_t added = length - length_;
     std::fill_n(Extend(added), added, u'\0');
   }
-  length_ = length;
+  CutTo(length);
 }
 
 int32_t CStringBuilder::EnsureCapacity(int32_t bytes) {
@@ -75,10 +79,11 @@ CStringBuilder& CStringBuilder::Insert(int32_t index, std::u16string_view text) 
   if (index < 0 || index > Length()) {
     throw BufferRangeError(u"CStringBuilder.Insert"_text, u"Argument(s) out of range."_text);
   }
+  if (text.empty()) return *this;
   const Text kept(text);  // The text may be a part of the buffer that is about to move.
   const size_t tail = length_ - static_cast<size_t>(index);
   Extend(kept.size());
-  char16_t* const place = characters_.get() + index;
+  char16_t* const place = storage_.data() + index;
   std::memmove(place + kept.size(), place, tail * sizeof(char16_t));
   std::memcpy(place, kept.data(), kept.size() * sizeof(char16_t));
   return *this;
@@ -88,34 +93,37 @@ CStringBuilder& CStringBuilder::Remove(int32_t start, int32_t count) {
   if (start < 0 || count < 0 || int64_t{start} + count > Length()) {
     throw BufferRangeError(u"CStringBuilder.Remove"_text, u"Argument(s) out of range."_text);
   }
-  char16_t* const place = characters_.get() + start;
+  Own();
+  char16_t* const place = storage_.data() + start;
   const size_t removed = static_cast<size_t>(count);
   const size_t tail = length_ - static_cast<size_t>(start) - removed;
   std::memmove(place, place + removed, tail * sizeof(char16_t));
-  length_ -= removed;
+  CutTo(length_ - removed);
   return *this;
 }
 
-void CStringBuilder::Grow(size_t count) {
-  const size_t most = static_cast<size_t>(kMostBytes) / sizeof(char16_t);
-  if (count > most - length_) throw Overflow();
-  Reserve(std::max(length_ + count, std::min(2 * physical_, most)));
+void CStringBuilder::Own() {
+  if (storage_.IsShared()) storage_.Reserve(storage_.capacity(), length_);
 }
 
-void CStringBuilder::RaiseCapacity(size_t characters) {
-  const int32_t capacity =
-      RoundUp(static_cast<int64_t>(characters * sizeof(char16_t)), growth_step_);
+void CStringBuilder::MakeRoom(size_t count) {
+  if (count > kMostCharacters - length_) throw Overflow();
+  const size_t length = length_ + count;
+  const int64_t bytes = static_cast<int64_t>(length * sizeof(char16_t));
+  const int32_t capacity = bytes > capacity_ ? RoundUp(bytes, growth_step_) : capacity_;
+  if (length > storage_.capacity()) {
+    storage_.Reserve(std::max(length, std::min(2 * storage_.capacity(), kMostCharacters)), length_);
+  } else {
+    Own();
+  }
   capacity_ = capacity;
-  logical_ = static_cast<size_t>(capacity) / sizeof(char16_t);
+  room_ = std::min(storage_.capacity(), static_cast<size_t>(capacity) / sizeof(char16_t));
 }
 
-void CStringBuilder::Reserve(size_t characters) {
-  if (characters <= physical_) return;
-  void* const grown = std::realloc(characters_.get(), characters * sizeof(char16_t));
-  if (grown == nullptr) throw std::bad_alloc();
-  static_cast<void>(characters_.release());
-  characters_.reset(static_cast<char16_t*>(grown));
-  physical_ = characters;
+Text CStringBuilder::ToString() {
+  if (length_ < std::max(kShortestShared, storage_.capacity() / 2)) return Text(view());
+  room_ = length_;
+  return storage_.Share(length_);
 }
 
 }  // namespace praxen

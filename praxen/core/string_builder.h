@@ -3,12 +3,11 @@
 #define PRAXEN_CORE_STRING_BUILDER_H_
 
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <string_view>
 
 #include "praxen/core/text.h"
+#include "praxen/core/text_buffer.h"
 
 namespace praxen {
 
@@ -21,8 +20,11 @@ class CStringBuilder {
  public:
   CStringBuilder();
 
+  CStringBuilder(const CStringBuilder&) = delete;
+  CStringBuilder& operator=(const CStringBuilder&) = delete;
+
   /// Sets the length to 0; the capacity stays.
-  void Reset() noexcept { length_ = 0; }
+  void Reset() noexcept { CutTo(0); }
 
   /// The growth step in bytes; an odd step is raised by one, one below 1 is ignored.
   void BufferBump(int32_t step);
@@ -49,14 +51,20 @@ class CStringBuilder {
     std::memcpy(end, text.data(), text.size() * sizeof(char16_t));
     return *this;
   }
-  /// Appends room for `count` characters, of any content, and returns its start.
+  /// Appends `count` characters, of any content, and returns the first.
   char16_t* Extend(size_t count) {
-    if (count > physical_ - length_) Grow(count);
-    if (count > logical_ - length_) RaiseCapacity(length_ + count);
-    char16_t* const end = characters_.get() + length_;
+    char16_t* const end = Reserve(count);
     length_ += count;
     return end;
   }
+  /// Makes room for `count` characters behind the text and returns its start.
+  char16_t* Reserve(size_t count) {
+    if (count > room_ - length_) [[unlikely]]
+      MakeRoom(count);
+    return storage_.data() + length_;
+  }
+  /// Takes what was filled in up to `end`, within the room just reserved, into the text.
+  void EndAt(const char16_t* end) noexcept { length_ = static_cast<size_t>(end - storage_.data()); }
 
   /// Makes room for the given bytes and returns the capacity.
   int32_t EnsureCapacity(int32_t bytes);
@@ -65,22 +73,21 @@ class CStringBuilder {
   /// Removes `count` characters; raises object error 512 when they are not all there.
   CStringBuilder& Remove(int32_t start, int32_t count);
 
-  Text ToString() const { return Text(view()); }
-  std::u16string_view view() const noexcept { return {characters_.get(), length_}; }
+  /// The text so far. A long one stands in the buffer's storage, which the buffer leaves to it when
+  /// it changes while the text is held.
+  Text ToString();
+  std::u16string_view view() const noexcept { return {storage_.data(), length_}; }
 
  private:
-  struct Free {
-    void operator()(char16_t* memory) const noexcept { std::free(memory); }
-  };
+  void MakeRoom(size_t count);
+  void Own();
+  void CutTo(size_t length) noexcept { length_ = room_ = length; }
 
-  void Grow(size_t count);
-  void RaiseCapacity(size_t characters);
-  void Reserve(size_t characters);
-
-  std::unique_ptr<char16_t[], Free> characters_;
-  size_t length_ = 0;    // in characters, as the two below
-  size_t physical_ = 0;  // what the storage holds
-  size_t logical_ = 0;   // what `Capacity` stands for
+  TextBuffer storage_;
+  size_t length_ = 0;  // in characters, as the room
+  // How far the text may grow before the storage or the capacity has to; no further than the length
+  // while a text may stand in the storage.
+  size_t room_ = 0;
   int32_t capacity_ = 0;
   int32_t growth_step_ = 2048;
 };

@@ -34,7 +34,7 @@ char32_t NextCodePoint(std::u16string_view text, size_t& at) {
 
 char16_t* Text::Allocate(size_t length) {
   if (length > kLongestText) throw Overflow();
-  void* const memory = std::malloc(sizeof(TextBlock) + (length + 1) * sizeof(char16_t));
+  void* const memory = std::malloc(BlockSize(length));
   if (memory == nullptr) throw std::bad_alloc();
   auto* const block = new (memory) TextBlock{1, static_cast<uint32_t>(length)};
   auto* const characters = reinterpret_cast<char16_t*>(block + 1);

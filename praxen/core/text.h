@@ -106,10 +106,16 @@ class Text {
   }
 
  private:
+  friend class TextBuffer;
+
   static StaticTextBlock<1> kEmpty;
 
   static Text Join(std::u16string_view left, std::u16string_view right);
   static char16_t* Allocate(size_t length);
+  /// In bytes, with head and NUL.
+  static constexpr size_t BlockSize(size_t length) noexcept {
+    return sizeof(TextBlock) + (length + 1) * sizeof(char16_t);
+  }
 
   TextBlock& block() const noexcept {
     return *(reinterpret_cast<TextBlock*>(const_cast<char16_t*>(characters_)) - 1);

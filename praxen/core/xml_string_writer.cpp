@@ -1,7 +1,7 @@
 // The markup that the writer appends, and its escaping.
 #include "praxen/core/xml_string_writer.h"
 
-#include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -39,44 +39,116 @@ constexpr bool IsEscaped(char16_t character) {
   return !Reference(character, Attribute).empty();
 }
 
-// Characters that are looked at together.
+// Characters that are looked at and copied together.
 using Block = uint16_t __attribute__((vector_size(16)));
+using HalfBlock = uint64_t;
+using Halves = HalfBlock __attribute__((vector_size(16)));
 constexpr size_t kBlock = sizeof(Block) / sizeof(char16_t);
+constexpr size_t kHalfBlock = kBlock / 2;
+constexpr int kBitsOfCharacter = 16;
 
-Block IsEach(Block block, uint16_t character) {
-  const Block wanted = {character, character, character, character,
-                        character, character, character, character};
-  return reinterpret_cast<Block>(block == wanted);
+template <class T>
+T Load(const char16_t* from) {
+  T characters;
+  std::memcpy(&characters, from, sizeof characters);
+  return characters;
 }
 
-template <bool Attribute>
-bool BlockHasEscaped(const char16_t* characters) {
-  Block block;
-  std::memcpy(&block, characters, sizeof block);
-  Block found = IsEach(block, u'&') | IsEach(block, u'<') | IsEach(block, u'>');
-  if constexpr (Attribute) found |= IsEach(block, u'"') | IsEach(block, u'\'');
-  std::array<uint64_t, 2> halves;
-  std::memcpy(halves.data(), &found, sizeof found);
-  return (halves[0] | halves[1]) != 0;
+template <class T>
+void Save(T characters, char16_t* to) {
+  std::memcpy(to, &characters, sizeof characters);
 }
 
-// The index of the first character that must be escaped, or the length.
+[[gnu::always_inline]] inline Block Each(uint16_t character) { return Block{} + character; }
+
+[[gnu::always_inline]] inline Block IsEach(Block block, uint16_t character) {
+  return reinterpret_cast<Block>(block == Each(character));
+}
+
+// Which characters of a block are one of two that differ in one bit.
+[[gnu::always_inline]] inline Block IsEither(Block block, uint16_t one, uint16_t other) {
+  return IsEach(block | Each(one ^ other), one | other);
+}
+
+// The index of the first character of a block that must be escaped; `kBlock` when there is none.
 template <bool Attribute>
-size_t FindEscaped(std::u16string_view value) {
+[[gnu::always_inline]] inline size_t FindEscaped(Block block) {
+  Block found = IsEither(block, u'<', u'>');
+  if constexpr (Attribute) {
+    found |= IsEither(block, u'&', u'\'') | IsEach(block, u'"');
+  } else {
+    found |= IsEach(block, u'&');
+  }
+  const auto halves = reinterpret_cast<Halves>(found);
+  if ((halves[0] | halves[1]) == 0) return kBlock;
+  const int bits = halves[0] != 0 ? std::countr_zero(halves[0]) : 64 + std::countr_zero(halves[1]);
+  return static_cast<size_t>(bits / kBitsOfCharacter);
+}
+
+// Copies the characters before the first that must be escaped, and returns their number. What lies
+// behind them, up to the length of the value, is of any content.
+template <bool Attribute>
+[[gnu::always_inline]] inline size_t CopyPlain(std::u16string_view value, char16_t* to) {
+  const char16_t* const from = value.data();
   const size_t size = value.size();
   size_t at = 0;
-  while (at + kBlock <= size && !BlockHasEscaped<Attribute>(value.data() + at)) at += kBlock;
-  // The last block may overlap the one before.
-  if (size >= kBlock && at + kBlock > size &&
-      !BlockHasEscaped<Attribute>(value.data() + size - kBlock)) {
-    return size;
+  for (; at + kBlock <= size; at += kBlock) {
+    const auto block = Load<Block>(from + at);
+    Save(block, to + at);
+    const size_t plain = FindEscaped<Attribute>(block);
+    if (plain < kBlock) return at + plain;
   }
-  while (at < size && !IsEscaped<Attribute>(value[at])) ++at;
+  if (at == size) return size;
+  if (size >= kBlock) {
+    // The last block overlaps the one before, which is plain.
+    const auto block = Load<Block>(from + size - kBlock);
+    Save(block, to + size - kBlock);
+    return size - kBlock + FindEscaped<Attribute>(block);
+  }
+  if (size >= kHalfBlock) {
+    // Two halves, which may overlap.
+    const auto first = Load<HalfBlock>(from);
+    const auto last = Load<HalfBlock>(from + size - kHalfBlock);
+    Save(first, to);
+    Save(last, to + size - kHalfBlock);
+    const size_t plain = FindEscaped<Attribute>(reinterpret_cast<Block>(Halves{first, last}));
+    return plain < kHalfBlock ? plain : size - kBlock + plain;
+  }
+  while (at < size && !IsEscaped<Attribute>(from[at])) {
+    to[at] = from[at];
+    ++at;
+  }
   return at;
 }
 
 char16_t* Copy(std::u16string_view characters, char16_t* to) {
-  return to + characters.copy(to, characters.size());
+  const char16_t* const from = characters.data();
+  const size_t size = characters.size();
+  if (size >= kBlock) {
+    for (size_t at = 0; at + kBlock < size; at += kBlock) Save(Load<Block>(from + at), to + at);
+    Save(Load<Block>(from + size - kBlock), to + size - kBlock);
+  } else if (size >= kHalfBlock) {
+    const auto last = Load<HalfBlock>(from + size - kHalfBlock);
+    Save(Load<HalfBlock>(from), to);
+    Save(last, to + size - kHalfBlock);
+  } else {
+    for (size_t at = 0; at < size; ++at) to[at] = from[at];
+  }
+  return to + size;
+}
+
+char16_t* Put(char16_t character, char16_t* to) {
+  *to = character;
+  return to + 1;
+}
+
+// Room for the markup between a name or value and the next, such as ">\r\n</".
+constexpr size_t kMostMarkup = 8;
+
+char16_t* LineBreak(char16_t* to) { return IncludeCRLFInXML() ? Put(u'\n', Put(u'\r', to)) : to; }
+
+char16_t* EndTag(std::u16string_view name, char16_t* to) {
+  return LineBreak(Put(u'>', Copy(name, Put(u'/', Put(u'<', to)))));
 }
 
 }  // namespace
@@ -96,46 +168,39 @@ void XMLStringWriter::WriteStartDocument() {
 }
 
 void XMLStringWriter::WriteStartRootElement(std::u16string_view name) {
-  WriteLineBreak();
+  if (IncludeCRLFInXML()) buffer_.Append(u"\r\n");
   buffer_.Append(u"<").Append(name).Append(u" xmlns='PraxenSchema3_0'");
   OpenElement();
 }
 
 void XMLStringWriter::WriteStartElement(std::u16string_view name) {
-  CloseStartTag();
-  buffer_.Append(u"<").Append(name);
+  char16_t* const end = CloseStartTag(buffer_.Reserve(name.size() + kMostMarkup));
+  buffer_.EndAt(Copy(name, Put(u'<', end)));
   OpenElement();
 }
 
 void XMLStringWriter::WriteEndElement(std::u16string_view name) {
-  if (element_empty_) {
-    buffer_.Append(u" />");
-    start_tag_open_ = element_empty_ = false;
-  } else {
-    buffer_.Append(u"</").Append(name).Append(u">");
-  }
+  char16_t* const end = buffer_.Reserve(name.size() + kMostMarkup);
+  buffer_.EndAt(element_empty_ ? LineBreak(Copy(u" />", end)) : EndTag(name, end));
+  start_tag_open_ = element_empty_ = false;
   --depth_;
-  WriteLineBreak();
 }
 
 void XMLStringWriter::WriteAttributeString(std::u16string_view name, std::u16string_view value) {
-  const size_t plain = FindEscaped<true>(value);
-  char16_t* end = buffer_.Extend(name.size() + plain + 3);
-  *end++ = u' ';
-  end = Copy(name, end);
-  *end++ = u'=';
-  *end++ = u'\'';
-  Copy(value.substr(0, plain), end);
-  if (plain < value.size()) WriteEscaped<true>(value.substr(plain));
+  char16_t* const end = buffer_.Reserve(name.size() + value.size() + kMostMarkup);
+  char16_t* const start = Put(u'\'', Put(u'=', Copy(name, Put(u' ', end))));
+  const size_t plain = CopyPlain<true>(value, start);
+  if (plain == value.size()) return buffer_.EndAt(Put(u'\'', start + plain));
+  buffer_.EndAt(start + plain);
+  WriteEscaped<true>(value.substr(plain));
   *buffer_.Extend(1) = u'\'';
 }
 
 void XMLStringWriter::WriteElementString(std::u16string_view name, std::u16string_view value) {
-  CloseStartTag();
-  buffer_.Append(u"<").Append(name).Append(u">");
+  char16_t* const end = CloseStartTag(buffer_.Reserve(name.size() + kMostMarkup));
+  buffer_.EndAt(Put(u'>', Copy(name, Put(u'<', end))));
   WriteEscaped<false>(value);
-  buffer_.Append(u"</").Append(name).Append(u">");
-  WriteLineBreak();
+  buffer_.EndAt(EndTag(name, buffer_.Reserve(name.size() + kMostMarkup)));
   start_tag_open_ = element_empty_ = false;
 }
 
@@ -149,14 +214,9 @@ void XMLStringWriter::WriteXMLElementValue(std::u16string_view markup) {
   buffer_.Append(markup);
 }
 
-void XMLStringWriter::WriteLineBreak() {
-  if (IncludeCRLFInXML()) buffer_.Append(u"\r\n");
-}
-
-void XMLStringWriter::CloseStartTag() {
-  if (!start_tag_open_) return;
-  buffer_.Append(u">");
-  WriteLineBreak();
+// Ends the start tag of an element that has another inside; `end` has room for it.
+char16_t* XMLStringWriter::CloseStartTag(char16_t* end) const {
+  return start_tag_open_ ? LineBreak(Put(u'>', end)) : end;
 }
 
 void XMLStringWriter::StartContent() {
@@ -170,12 +230,12 @@ void XMLStringWriter::OpenElement() {
   start_tag_open_ = element_empty_ = true;
 }
 
-// Runs without a character to escape are copied whole.
 template <bool Attribute>
 void XMLStringWriter::WriteEscaped(std::u16string_view value) {
   for (;;) {
-    const size_t plain = FindEscaped<Attribute>(value);
-    buffer_.Append(value.substr(0, plain));
+    char16_t* const end = buffer_.Reserve(value.size());
+    const size_t plain = CopyPlain<Attribute>(value, end);
+    buffer_.EndAt(end + plain);
     if (plain == value.size()) return;
     buffer_.Append(Reference(value[plain], Attribute));
     value.remove_prefix(plain + 1);

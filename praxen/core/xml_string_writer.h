@@ -37,11 +37,11 @@ class XMLStringWriter {
   void WriteElementValue(std::u16string_view value);
   /// Writes content that is markup already.
   void WriteXMLElementValue(std::u16string_view markup);
-  Text ToXMLString() const { return buffer_.ToString(); }
+  /// The document so far.
+  Text ToXMLString() { return buffer_.ToString(); }
 
  private:
-  void WriteLineBreak();
-  void CloseStartTag();
+  char16_t* CloseStartTag(char16_t* end) const;
   void StartContent();
   void OpenElement();
   template <bool Attribute>

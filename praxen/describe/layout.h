@@ -3,6 +3,7 @@
 #define PRAXEN_DESCRIBE_LAYOUT_H_
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -44,10 +45,14 @@ struct Attribute {
 
   // Filled from a new object before the layout is used.
 
+  /// In bytes from the start of the object.
+  std::ptrdiff_t offset = 0;
   XmlName xmlName = nullptr;
-  /// The value at creation, as it would be written.
-  Text creationText = {};
-  int32_t creationNumber = 0;
+  /// Whether the attribute is left out for the value that its absence stands for.
+  bool canBeAbsent = false;
+  /// The value that absence stands for, as it would be written, and as a number if it is one.
+  Text absentText = {};
+  int32_t absentNumber = 0;
 };
 
 enum class ChildKind : uint8_t {
@@ -109,7 +114,11 @@ struct Child {
   /// The content is markup of any form, which nothing looks into.
   bool isMarkup = false;
 
-  /// The name of its element; filled in before the layout is used.
+  // Filled in before the layout is used.
+
+  /// Of a text: in bytes from the start of the object.
+  std::ptrdiff_t offset = 0;
+  /// The name of its element.
   XmlName xmlName = nullptr;
 };
 
@@ -136,7 +145,22 @@ struct Layout {
   /// Of a list: the classes of its elements, in the order in which names and kinds are tested.
   std::vector<Choice> elements = {};
   Container container = Container::Always;
+
+  // Filled in before the layout is used.
+
+  /// Of the attributes that must not be empty, in bytes from the start of the object.
+  std::vector<std::ptrdiff_t> requiredTexts = {};
 };
+
+/// The value that lies so many bytes behind the start of an object.
+inline void* ValueAt(Object& object, std::ptrdiff_t offset) noexcept {
+  return reinterpret_cast<std::byte*>(&object) + offset;
+}
+/// The value of an attribute, or the text of a child, of an object of the layout's class.
+template <class Entry>
+void* ValueOf(const Entry& entry, Object& object) noexcept {
+  return ValueAt(object, entry.offset);
+}
 
 /// Names the element and fills in what attributes hold in a new object.
 Layout CompleteLayout(Layout layout, std::u16string element, Object& created);

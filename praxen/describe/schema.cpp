@@ -140,11 +140,9 @@ AttributeDeclaration DeclareAttribute(const Attribute& attribute) {
       declaration.required = !attribute.readIfPresent;
       break;
     case Rule::Optional:
-    case Rule::ReadOnly:
-      declaration.defaultValue = std::u16string(attribute.creationText.view());
-      break;
     case Rule::UnlessEmpty:
-      declaration.defaultValue.emplace();
+    case Rule::ReadOnly:
+      declaration.defaultValue = std::u16string(attribute.absentText.view());
   }
   return declaration;
 }

@@ -48,7 +48,7 @@ void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& no
     throw MissingAttribute(node, attribute.name);
   }
   try {
-    SetValue(attribute, attribute.storage(object), found->value());
+    SetValue(attribute, ValueOf(attribute, object), found->value());
   } catch (const Error& error) {
     throw error.At(PlaceOf(node));
   }
@@ -68,7 +68,7 @@ void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNod
     case ChildKind::Custom:
       return child.readXML(object, cursor);
     case ChildKind::Content:
-      SetText(*static_cast<Text*>(child.storage(object)), FirstText(parent));
+      SetText(*static_cast<Text*>(ValueOf(child, object)), FirstText(parent));
       return;
     case ChildKind::Items:
       ReadItems(*child.held(object), child.object().layout(), cursor);
@@ -80,7 +80,7 @@ void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNod
     case ChildKind::Text:
       if (child.strict) ReadTextElement(cursor, child.name);
       if (cursor.name() != child.xmlName || !cursor) return;
-      ReadText(*static_cast<Text*>(child.storage(object)), child, cursor);
+      ReadText(*static_cast<Text*>(ValueOf(child, object)), child, cursor);
       break;
     case ChildKind::List:
     case ChildKind::Object:

@@ -2,6 +2,7 @@
 #include "praxen/describe/xml_writing.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "praxen/core/error.h"
@@ -18,35 +19,21 @@ const T& As(const void* value) {
   return *static_cast<const T*>(value);
 }
 
-bool IsEmpty(const Attribute& attribute, const void* value) {
-  return attribute.type.kind == ValueKind::Text && As<Text>(value).empty();
+std::ptrdiff_t OffsetIn(const Object& object, const void* value) {
+  return static_cast<const std::byte*>(value) - reinterpret_cast<const std::byte*>(&object);
 }
 
-// Whether the value is that of a new object.
-bool IsCreationValue(const Attribute& attribute, const void* value) {
+// Whether the value is the one that absence stands for.
+bool IsAbsent(const Attribute& attribute, const void* value) {
+  if (!attribute.canBeAbsent) return false;
   switch (attribute.type.kind) {
     case ValueKind::Text:
-      return As<Text>(value) == attribute.creationText;
+      return As<Text>(value) == attribute.absentText;
     case ValueKind::Boolean:
-      return As<bool>(value) == (attribute.creationNumber != 0);
+      return As<bool>(value) == (attribute.absentNumber != 0);
     default:
-      return As<int32_t>(value) == attribute.creationNumber;
+      return As<int32_t>(value) == attribute.absentNumber;
   }
-}
-
-bool IsWritten(const Attribute& attribute, const void* value) {
-  switch (attribute.rule) {
-    case Rule::Required:
-    case Rule::Always:
-      return true;
-    case Rule::Optional:
-      return !IsCreationValue(attribute, value);
-    case Rule::UnlessEmpty:
-      return !IsEmpty(attribute, value);
-    case Rule::ReadOnly:
-      break;
-  }
-  return false;
 }
 
 template <class Consumer>
@@ -66,17 +53,16 @@ void WithText(const Attribute& attribute, const void* value, Consumer consume) {
 }
 
 void RequireFields(Object& object, const Layout& layout) {
-  for (const Attribute& attribute : layout.attributes) {
-    if (attribute.rule == Rule::Required && IsEmpty(attribute, attribute.storage(object))) {
-      throw RequiredFieldsEmpty();
-    }
+  for (const std::ptrdiff_t offset : layout.requiredTexts) {
+    if (As<Text>(ValueAt(object, offset)).empty()) throw RequiredFieldsEmpty();
   }
 }
 
 void WriteAttributes(Object& object, const Layout& layout, XMLStringWriter& writer) {
   for (const Attribute& attribute : layout.attributes) {
-    const void* const value = attribute.storage(object);
-    if (!IsWritten(attribute, value)) continue;
+    if (attribute.rule == Rule::ReadOnly) continue;
+    const void* const value = ValueOf(attribute, object);
+    if (IsAbsent(attribute, value)) continue;
     WithText(attribute, value,
              [&](std::u16string_view text) { writer.WriteAttributeString(attribute.name, text); });
   }
@@ -124,7 +110,7 @@ void WriteChild(Object& object, const Child& child, XMLStringWriter& writer) {
       return child.writeXML(object, writer);
     case ChildKind::Text:
     case ChildKind::Content:
-      return WriteText(child, As<Text>(child.storage(object)), writer);
+      return WriteText(child, As<Text>(ValueOf(child, object)), writer);
     default:
       break;
   }
@@ -167,19 +153,43 @@ Text AttributeText(const Attribute& attribute, const void* value) {
   return text;
 }
 
+namespace {
+
+void CompleteAttribute(Attribute& attribute, Object& created) {
+  const void* const value = attribute.storage(created);
+  attribute.offset = OffsetIn(created, value);
+  attribute.xmlName = InternXmlName(attribute.name);
+  attribute.canBeAbsent = attribute.rule == Rule::Optional || attribute.rule == Rule::UnlessEmpty;
+  if (attribute.rule == Rule::UnlessEmpty) return;
+  attribute.absentText = AttributeText(attribute, value);
+  switch (attribute.type.kind) {
+    case ValueKind::Boolean:
+      attribute.absentNumber = As<bool>(value);
+      break;
+    case ValueKind::Integer:
+    case ValueKind::Enumeration:
+      attribute.absentNumber = As<int32_t>(value);
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace
+
 Layout CompleteLayout(Layout layout, std::u16string element, Object& created) {
   layout.element = std::move(element);
   for (Attribute& attribute : layout.attributes) {
-    const void* const value = attribute.storage(created);
-    attribute.xmlName = InternXmlName(attribute.name);
-    attribute.creationText = AttributeText(attribute, value);
-    if (attribute.type.kind == ValueKind::Boolean) attribute.creationNumber = As<bool>(value);
-    if (attribute.type.kind == ValueKind::Integer ||
-        attribute.type.kind == ValueKind::Enumeration) {
-      attribute.creationNumber = As<int32_t>(value);
+    CompleteAttribute(attribute, created);
+    if (attribute.rule == Rule::Required && attribute.type.kind == ValueKind::Text) {
+      layout.requiredTexts.push_back(attribute.offset);
     }
   }
   for (Child& child : layout.children) {
+    if (child.storage != nullptr) child.offset = OffsetIn(created, child.storage(created));
+    if (child.kind == ChildKind::List || child.kind == ChildKind::Items) {
+      child.leaveOutEmpty |= child.object().layout().container != Container::Always;
+    }
     if (child.elementName != nullptr) child.name = child.elementName();
     if (!child.name.empty()) child.xmlName = InternXmlName(child.name);
   }

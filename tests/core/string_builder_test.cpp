@@ -66,6 +66,42 @@ TEST(CStringBuilder, EditsText) {
   EXPECT_EQ(builder.ToString(), Text(std::u16string_view(u"bX\0\0", 4)));
 }
 
+// A long text stands in the buffer's own storage.
+TEST(CStringBuilder, LeavesTextsAsTheyAreWhenItChanges) {
+  const std::function<void(CStringBuilder&)> changes[] = {
+      [](CStringBuilder& b) { b.Append(u"y"); },
+      [](CStringBuilder& b) { b.Reset(), b.Append(u"y"); },
+      [](CStringBuilder& b) { b.Chars(0, u"y"); },
+      [](CStringBuilder& b) { b.Length(5), b.Append(u"y"); },
+      [](CStringBuilder& b) { b.Length(50000); },
+      [](CStringBuilder& b) { b.Insert(1, u"y"); },
+      [](CStringBuilder& b) { b.Remove(0, 40000), b.Append(u"y"); },
+      [](CStringBuilder& b) { b.Capacity(100), b.Append(u"y"); },
+      [](CStringBuilder& b) { b.Length(39999), b.ToString(); },
+      [](CStringBuilder& b) { b.Reserve(100)[0] = u'y'; },
+  };
+  const std::u16string content = Repeat(40000);
+  for (const auto& change : changes) {
+    CStringBuilder builder;
+    builder.Append(content);
+    const Text text = builder.ToString(), again = builder.ToString();
+    EXPECT_EQ(text.data(), again.data());
+    change(builder);
+    EXPECT_TRUE(text == content && again == content) << &change - changes;
+    EXPECT_EQ(text.c_str()[40000], u'\0');
+    const std::u16string after(builder.view());
+    EXPECT_EQ(builder.ToString(), after);
+  }
+}
+
+TEST(CStringBuilder, TakesItsStorageBack) {
+  CStringBuilder builder;
+  builder.Append(Repeat(40000));
+  const char16_t* const place = builder.ToString().data();
+  builder.Reset();
+  EXPECT_EQ(builder.Append(Repeat(39000)).ToString().data(), place);
+}
+
 TEST(CStringBuilder, RefusesWhatIsOutsideTheText) {
   struct Case {
     std::function<void(CStringBuilder&)> change;

@@ -65,7 +65,7 @@ TEST(GeneratedFiles, TheSchemaKnowsEveryAttribute) {
                 attribute.rule == Rule::Required ||
                     (attribute.rule == Rule::Always && !attribute.readIfPresent));
       if (attribute.rule == Rule::Optional) {
-        EXPECT_EQ(declared->defaultValue, attribute.creationText.view());
+        EXPECT_EQ(declared->defaultValue, attribute.absentText.view());
       }
     }
   }
