@@ -142,6 +142,25 @@ TEST(ProjectConstants, AreWrittenAsATree) {
   EXPECT_EQ(names, "A.B A.D C ");
 }
 
+TEST(ProjectConstants, KeepTheirPlacesOnALargeLevel) {
+  const auto list = New<ProjectConstants>();
+  const auto add = [&](const std::string& name) {
+    const Text value = FromUtf8(std::to_string(list->Count()));
+    list->Add(ObjectFactory::NewProjectConstant(FromUtf8("G." + name), u"dint", value));
+  };
+  std::string members;
+  for (int number = 0; number < 300; ++number) {
+    // Every name comes twice, and one of them is a group as well.
+    const std::string name = "K" + std::to_string(number * 7 % 150);
+    add(name);
+    if (number == 200) add("K7.L");
+    if (number < 150) {
+      members += name == "K7" ? Group(name, Leaf("L", "201")) : Leaf(name, std::to_string(number));
+    }
+  }
+  EXPECT_EQ(Markup(*list), "<ProjectConstants>" + Group("G", members) + "</ProjectConstants>");
+}
+
 TEST(ProjectConstants, NeedTypeAndValueWhenRead) {
   for (const char* const child : {"", "<Type>dint</Type>", "<Type/><Value>1</Value>",
                                   "<Type>dint</Type><Value/>", "<ProjectConstants/>"}) {

@@ -1,6 +1,8 @@
 // Building, writing and reading of the tree of project constants.
 #include "praxen/model/application/project_constant_tree.h"
 
+#include <functional>
+
 #include "praxen/core/error.h"
 #include "praxen/core/text_functions.h"
 #include "praxen/core/xml_string_writer.h"
@@ -24,59 +26,101 @@ std::u16string_view RequiredText(const XmlNode& node) {
   return text;
 }
 
+// So many entries of a level are searched one after the other.
+constexpr size_t kMostSearched = 8;
+
+std::unique_ptr<EntryTable> TableOf(intProjectConstant& level) {
+  auto table = std::make_unique<EntryTable>();
+  for (auto* entry = &level; entry != nullptr; entry = entry->nextSibling) table->Add(*entry);
+  return table;
+}
+
+intProjectConstant* Find(intProjectConstant& level, std::u16string_view name) {
+  if (level.table != nullptr) return level.table->Find(name);
+  intProjectConstant* entry = &level;
+  while (entry != nullptr && entry->Name != name) entry = entry->nextSibling;
+  return entry;
+}
+
 }  // namespace
+
+void EntryTable::Add(intProjectConstant& entry) {
+  if (2 * (count_ + 1) > slots_.size()) Grow();
+  const size_t hash = std::hash<std::u16string_view>()(entry.Name);
+  FreeSlot(hash) = {hash, &entry};
+  ++count_;
+}
+
+intProjectConstant* EntryTable::Find(std::u16string_view name) const noexcept {
+  const size_t hash = std::hash<std::u16string_view>()(name);
+  for (size_t at = hash;; ++at) {
+    const Slot& slot = slots_[at & (slots_.size() - 1)];
+    if (slot.entry == nullptr || (slot.hash == hash && slot.entry->Name == name)) return slot.entry;
+  }
+}
+
+EntryTable::Slot& EntryTable::FreeSlot(size_t hash) noexcept {
+  size_t at = hash;
+  while (slots_[at & (slots_.size() - 1)].entry != nullptr) ++at;
+  return slots_[at & (slots_.size() - 1)];
+}
+
+void EntryTable::Grow() {
+  std::vector<Slot> former(2 * slots_.size());
+  former.swap(slots_);
+  for (const Slot& slot : former) {
+    if (slot.entry != nullptr) FreeSlot(slot.hash) = slot;
+  }
+}
 
 intProjectConstant& intProjectConstants::NewLevel(intProjectConstant* group) {
   intProjectConstant& level = entries_.emplace_back();
   level.group = group;
-  places_.emplace(NameSegment{&level, level.Name}, &level);
   return level;
 }
 
 intProjectConstant& intProjectConstants::NewEntry(intProjectConstant& level,
                                                   std::u16string_view name) {
   intProjectConstant* entry = &level;
-  if (level.IsUnused) {
-    places_.erase({&level, level.Name});
-  } else {
+  if (!level.IsUnused) {
     entry = &entries_.emplace_back();
     entry->group = level.group;
     level.lastSibling->nextSibling = entry;
     level.lastSibling = entry;
+    ++level.siblings;
   }
   entry->IsUnused = false;
   entry->Name = name;
-  places_.emplace(NameSegment{&level, name}, entry);
+  if (level.table != nullptr) {
+    level.table->Add(*entry);
+  } else if (level.siblings > kMostSearched) {
+    level.table = TableOf(level);
+  }
   return *entry;
 }
 
 // A name may have any number of segments, so the levels are followed in a loop.
 void intProjectConstants::AddRecursive(intProjectConstant& level, std::u16string_view name,
-                                       const Text& type, const Text& value) {
+                                       std::u16string_view type, std::u16string_view value) {
   for (intProjectConstant* at = &level;;) {
     const std::u16string_view first = TextBeforeFirstDot(name);
     name = TextAfterFirstDot(name);
-    const auto found = places_.find({at, first});
-    const bool isNew = found == places_.end();
-    intProjectConstant& entry = isNew ? NewEntry(*at, first) : *found->second;
+    intProjectConstant* entry = Find(*at, first);
     if (name.empty()) {
-      if (!isNew) return;
-      entry.Type = type;
-      entry.Value = value;
+      if (entry != nullptr) return;
+      entry = &NewEntry(*at, first);
+      entry->Type = type;
+      entry->Value = value;
       return;
     }
-    if (entry.SubLevel == nullptr) {
-      entry.SubLevel = &NewLevel(&entry);
-      entry.IsUnused = false;
-    }
-    at = entry.SubLevel;
+    if (entry == nullptr || entry->IsUnused) entry = &NewEntry(*at, first);
+    if (entry->SubLevel == nullptr) entry->SubLevel = &NewLevel(entry);
+    at = entry->SubLevel;
   }
 }
 
 void intProjectConstants::Write(XMLStringWriter& writer, const ProjectConstants& list) {
   if (list.Count() == 0) return;
-  // Most entries are constants; the groups come on top.
-  places_.reserve(static_cast<size_t>(list.Count()) / 8 * 9);
   intProjectConstant& root = NewLevel(nullptr);
   for (const ProjectConstant& constant : list) {
     AddRecursive(root, constant.Name.get(), constant.PCType, constant.Value);

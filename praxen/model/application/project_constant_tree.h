@@ -4,8 +4,9 @@
 
 #include <cstddef>
 #include <deque>
+#include <memory>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 #include "praxen/core/library.h"
 #include "praxen/model/application/project_constant.h"
@@ -14,6 +15,29 @@
 namespace praxen {
 
 class XMLStringWriter;
+
+struct intProjectConstant;
+
+/// Finds the entries of a level by name; open addressing keeps a look-up to one place in memory.
+class EntryTable {
+ public:
+  void Add(intProjectConstant& entry);
+  /// Null when there is none of that name.
+  intProjectConstant* Find(std::u16string_view name) const noexcept;
+
+ private:
+  struct Slot {
+    size_t hash = 0;
+    intProjectConstant* entry = nullptr;
+  };
+
+  Slot& FreeSlot(size_t hash) noexcept;
+  void Grow();
+
+  // A power of two, at least half of them free.
+  std::vector<Slot> slots_ = std::vector<Slot>(32);
+  size_t count_ = 0;
+};
 
 /// An entry of a level of the tree: a constant, or a group when it has a level below. The first
 /// entry stands for its level, and is unused until the level is given a name.
@@ -25,15 +49,20 @@ struct intProjectConstant {
 
   /// One segment of a dotted name.
   std::u16string_view Name;
-  Text Type, Value;
+  std::u16string_view Type, Value;
   bool IsUnused = true;
   /// The first entry of the level below.
   intProjectConstant* SubLevel = nullptr;
   /// The group whose level the entry stands on; null on the top level.
   intProjectConstant* group = nullptr;
   intProjectConstant* nextSibling = nullptr;
-  /// Of the first entry of a level.
+
+  // Of the first entry of a level.
+
   intProjectConstant* lastSibling = this;
+  size_t siblings = 1;
+  /// The entries of the level; null while they are few.
+  std::unique_ptr<EntryTable> table = nullptr;
 };
 
 /// Converts between the list of constants with dotted names and the nested elements. Takes time in
@@ -59,14 +88,12 @@ class intProjectConstants {
  private:
   intProjectConstant& NewLevel(intProjectConstant* group);
   intProjectConstant& NewEntry(intProjectConstant& level, std::u16string_view name);
-  void AddRecursive(intProjectConstant& level, std::u16string_view name, const Text& type,
-                    const Text& value);
+  void AddRecursive(intProjectConstant& level, std::u16string_view name, std::u16string_view type,
+                    std::u16string_view value);
   void ReadLevel(XmlNode node, ProjectConstants& list, const Text& prefix);
   void ReadConstant(const Text& name, const XmlNode& node, ProjectConstants& list);
 
   std::deque<intProjectConstant> entries_;
-  /// The entries by their level's first entry and their name.
-  std::unordered_map<NameSegment, intProjectConstant*, NameSegmentHash> places_;
   size_t name_characters_ = 0;
 };
 
