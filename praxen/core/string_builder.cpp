@@ -14,8 +14,10 @@ namespace {
 constexpr int64_t kMostBytes = std::numeric_limits<int32_t>::max();
 constexpr size_t kMostCharacters = static_cast<size_t>(kMostBytes) / sizeof(char16_t);
 
-// A shorter text is copied, so that it does not keep storage that is mostly unused.
+// A text that is short, or much shorter than one before, is copied: the storage stays with the
+// buffer.
 constexpr size_t kShortestShared = 32768;
+constexpr size_t kSmallestSharedPart = 8;
 
 int32_t RoundUp(int64_t bytes, int32_t step) {
   const int64_t rounded = (bytes + step - 1) / step * step;
@@ -121,7 +123,11 @@ void CStringBuilder::MakeRoom(size_t count) {
 }
 
 Text CStringBuilder::ToString() {
-  if (length_ < std::max(kShortestShared, storage_.capacity() / 2)) return Text(view());
+  if (length_ < std::max(kShortestShared, storage_.capacity() / kSmallestSharedPart)) {
+    return Text(view());
+  }
+  // A text does not keep more storage than it fills.
+  if (!storage_.IsShared() && length_ < storage_.capacity() / 2) storage_.Reserve(length_, length_);
   room_ = length_;
   return storage_.Share(length_);
 }

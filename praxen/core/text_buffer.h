@@ -16,8 +16,8 @@ class TextBuffer {
   /// In characters.
   size_t capacity() const noexcept { return capacity_; }
 
-  /// Makes room for so many characters, at most 2^31-1, of which the first `kept` stay; the room is
-  /// not shared afterwards. Raises `std::bad_alloc`, and changes nothing, without the memory.
+  /// Makes the room one for so many characters, at most 2^31-1, of which the first `kept` stay; it
+  /// is not shared afterwards. Raises `std::bad_alloc`, and changes nothing, without the memory.
   void Reserve(size_t characters, size_t kept);
 
   /// The first `length` characters, at most the capacity, as a text that stands in the room.

@@ -102,6 +102,16 @@ TEST(CStringBuilder, TakesItsStorageBack) {
   EXPECT_EQ(builder.Append(Repeat(39000)).ToString().data(), place);
 }
 
+TEST(CStringBuilder, HandsOutTextsOfAnyLengthAfterALongOne) {
+  CStringBuilder builder;
+  for (const size_t length : {1'000'000, 200'000, 40'000, 100, 300'000, 2'000'000}) {
+    builder.Reset();
+    builder.Append(Repeat(length)).Insert(0, u"y");
+    EXPECT_EQ(builder.ToString(), u"y" + Repeat(length));
+    EXPECT_EQ(builder.ToString(), u"y" + Repeat(length));
+  }
+}
+
 TEST(CStringBuilder, RefusesWhatIsOutsideTheText) {
   struct Case {
     std::function<void(CStringBuilder&)> change;
