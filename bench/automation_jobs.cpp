@@ -10,7 +10,6 @@ namespace praxen::bench {
 namespace {
 
 constexpr size_t kCalls = 20'000;
-constexpr int kRounds = 5;
 
 void Require(HRESULT result) {
   if (FAILED(result)) throw std::runtime_error("automation call failed");
@@ -159,7 +158,7 @@ void AddEnumerations(std::vector<Job>& jobs) {
 
 }  // namespace
 
-std::vector<Result> MeasureAutomation() {
+std::vector<Result> MeasureAutomation(int rounds) {
   const Ref<Variable> variable = New<Variable>();
   variable->Name = u"Level";
   std::vector<Job> jobs;
@@ -167,7 +166,7 @@ std::vector<Result> MeasureAutomation() {
   AddPuts(jobs, variable);
   AddAdditions(jobs);
   AddEnumerations(jobs);
-  return Measure(jobs, kRounds);
+  return Measure(jobs, rounds);
 }
 
 }  // namespace praxen::bench

@@ -10,7 +10,7 @@ namespace praxen::bench {
 
 /// Property get and put, additions and enumeration: directly in C++, through the interface table,
 /// by cached identifier and by name.
-std::vector<Result> MeasureAutomation();
+std::vector<Result> MeasureAutomation(int rounds);
 
 }  // namespace praxen::bench
 

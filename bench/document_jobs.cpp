@@ -9,9 +9,6 @@
 namespace praxen::bench {
 namespace {
 
-constexpr int kRounds = 7;
-constexpr int kGrowthRounds = 3;
-
 struct Peer {
   std::string name;
   Reader read;
@@ -82,7 +79,7 @@ void AddDocument(std::vector<Job>& jobs, const std::string& name, const Ref<Clas
 
 template <class Class>
 void AddGrowth(std::vector<Result>& results, const std::string& name,
-               const std::vector<size_t>& sizes, Ref<Class> (*build)(size_t)) {
+               const std::vector<size_t>& sizes, Ref<Class> (*build)(size_t), int rounds) {
   std::vector<Job> jobs;
   for (const size_t size : sizes) {
     const Ref<Class> object = build(size);
@@ -99,7 +96,7 @@ void AddGrowth(std::vector<Result>& results, const std::string& name,
     for (const Job& job : jobs) {
       if (job.task.starts_with(task + ",")) chosen.push_back(job);
     }
-    for (Result& result : Measure(chosen, kGrowthRounds)) {
+    for (Result& result : Measure(chosen, rounds)) {
       result.task = task;
       results.push_back(result);
     }
@@ -108,7 +105,7 @@ void AddGrowth(std::vector<Result>& results, const std::string& name,
 
 }  // namespace
 
-std::vector<Result> MeasureDocuments() {
+std::vector<Result> MeasureDocuments(int rounds) {
   std::vector<Job> jobs;
   AddDocument(jobs, "program", BuildProgram(20'000));
   AddDocument(jobs, "variables", BuildVariables(60'000));
@@ -116,14 +113,14 @@ std::vector<Result> MeasureDocuments() {
   AddDocument(jobs, "messages", BuildMessages(100'000));
   AddDocument(jobs, "constants", BuildConstants(100'000));
   AddReading<Program>(jobs, "small, read", BuildSmallDocuments(10'000));
-  return Measure(jobs, kRounds);
+  return Measure(jobs, rounds);
 }
 
-std::vector<Result> MeasureGrowth() {
+std::vector<Result> MeasureGrowth(int rounds) {
   std::vector<Result> results;
-  AddGrowth<Program>(results, "program", {2'000, 20'000, 200'000}, &BuildProgram);
-  AddGrowth<HWUnit>(results, "hardware", {20'000, 200'000}, &BuildHardware);
-  AddGrowth<ProjectConstants>(results, "constants", {10'000, 100'000}, &BuildConstants);
+  AddGrowth<Program>(results, "program", {2'000, 20'000, 200'000}, &BuildProgram, rounds);
+  AddGrowth<HWUnit>(results, "hardware", {20'000, 200'000}, &BuildHardware, rounds);
+  AddGrowth<ProjectConstants>(results, "constants", {10'000, 100'000}, &BuildConstants, rounds);
   return results;
 }
 

@@ -9,9 +9,9 @@
 namespace praxen::bench {
 
 /// Writing and reading by us and by every peer.
-std::vector<Result> MeasureDocuments();
+std::vector<Result> MeasureDocuments(int rounds);
 /// Ten times the work after each other, by us.
-std::vector<Result> MeasureGrowth();
+std::vector<Result> MeasureGrowth(int rounds);
 
 }  // namespace praxen::bench
 

@@ -4,9 +4,9 @@
 
 namespace praxen::bench {
 
-/// Serializes and reads a small document half a million times each, and prints the memory of the
-/// process at the start, in the middle and at the end.
-void RunLong();
+/// Reads and serializes a small document in turn, so many calls in all, and prints the memory of
+/// the process on the way. False when memory or the number of objects grew after the first tenth.
+bool RunLong(int calls);
 
 }  // namespace praxen::bench
 

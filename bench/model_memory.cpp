@@ -47,12 +47,17 @@ void PrintModelMemory() {
   PrintPerObject<Variable>("variable", 60'000, &BuildVariables);
   PrintPerObject<FunctionBlock>("function block", 60'000, &BuildFunctionBlocks);
   PrintPerObject<HWChannel>("channel", 200'000, &BuildHardware);
+}
 
+std::vector<Goal> MemoryGoals() {
   const Text text = BuildProgram(20'000)->Serialize();
   const MemoryUse read = Count([&] { return ObjectFactory::DeserializeProgram(text); });
   const double bytes = static_cast<double>(text.size()) * sizeof(char16_t);
-  std::printf("\nreading the large program: peak %.2f and objects %.2f times the text's bytes\n",
-              static_cast<double>(read.peak) / bytes, static_cast<double>(read.held) / bytes);
+  const auto share = [&](int64_t amount) { return static_cast<double>(amount) / bytes; };
+  return {{"program, read: peak memory over the text's bytes", share(read.peak),
+           Goal::Bound::AtMost, 6},
+          {"program, read: memory of the objects over the text's bytes", share(read.held),
+           Goal::Bound::AtMost, 3}};
 }
 
 }  // namespace praxen::bench

@@ -2,11 +2,16 @@
 #ifndef PRAXEN_BENCH_MODEL_MEMORY_H_
 #define PRAXEN_BENCH_MODEL_MEMORY_H_
 
+#include <vector>
+
+#include "bench/goals.h"
+
 namespace praxen::bench {
 
-/// Prints bytes per variable, function block and channel, after building and after reading, and the
-/// memory of a large program's reading against the bytes of its text.
+/// Prints bytes per variable, function block and channel, after building and after reading.
 void PrintModelMemory();
+/// The memory of a large program's reading and of its objects against the bytes of its text.
+std::vector<Goal> MemoryGoals();
 
 }  // namespace praxen::bench
 
