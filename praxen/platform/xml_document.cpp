@@ -82,14 +82,19 @@ bool XmlDocument::loadXML(std::u16string_view text) {
     error_ = *std::move(fault);
     return false;
   }
+  // Whatever the load ends with, nothing is left of a document that was not read to its end.
+  struct Unfinished {
+    ~Unfinished() {
+      if (document != nullptr) document->clear();
+    }
+    XmlDocument* document;
+  } unfinished{this};
   tree_->clear(text);
   XmlLoadResult result = engine_->load(text, *tree_);
-  if (!result.error.reason.empty()) {
-    clear();
-    error_ = std::move(result.error);
-    return false;
-  }
+  error_ = std::move(result.error);
+  if (!error_.reason.empty()) return false;
   rootDeclared_ = result.rootDeclared;
+  unfinished.document = nullptr;
   return true;
 }
 
@@ -105,8 +110,9 @@ void XmlDocument::clear() {
 bool XmlDocument::prepareEngine() {
   if (engine_ != nullptr && !engine_->retired()) return true;
   const XmlSchemaSource schema = schema_();
-  engine_.reset();
   tree_ = std::make_unique<XmlTree>(schema.targetNamespace);
+  // A retired engine goes when the new one stands: what all engines share cannot be made anew when
+  // memory is short.
   auto engine = std::make_unique<XmlEngine>(schema);
   error_ = engine->schemaError();
   if (!error_.reason.empty()) return false;

@@ -11,6 +11,7 @@
 #include <xercesc/framework/XMLValidityCodes.hpp>
 #include <xercesc/internal/SGXMLScanner.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/PanicHandler.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
 #include <xercesc/util/XMLUni.hpp>
@@ -18,18 +19,31 @@
 #include <xercesc/validators/common/GrammarResolver.hpp>
 
 #include "praxen/platform/xml_limits.h"
+#include "praxen/platform/xml_memory.h"
 #include "praxen/platform/xml_reason.h"
 #include "praxen/platform/xml_tree_builder.h"
 
 namespace praxen {
 namespace {
 
+// Keeps Xerces from ending the process.
+class NoPanic final : public xercesc::PanicHandler {
+ public:
+  void panic(const PanicReasons) override { throw std::bad_alloc(); }
+};
+
 // Keeps Xerces initialised. Xerces counts its users, but not for several threads.
 class XercesUse {
  public:
   XercesUse() {
     const std::lock_guard lock(mutex());
-    xercesc::XMLPlatformUtils::Initialize();
+    // What was half made can be neither completed nor taken down.
+    static bool isBroken = false;
+    static NoPanic& panic = *new NoPanic;
+    if (isBroken) throw std::bad_alloc();
+    isBroken = true;
+    xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, &panic);
+    isBroken = false;
   }
   XercesUse(const XercesUse&) = delete;
   XercesUse& operator=(const XercesUse&) = delete;
@@ -114,8 +128,8 @@ class NoEntities final : public xercesc::XMLEntityHandler {
 std::unique_ptr<xercesc::SGXMLScanner> MakeScanner(xercesc::XMLDocumentHandler* handler,
                                                    NoEntities& entities, Reporter& reporter,
                                                    xercesc::GrammarResolver& grammars) {
-  auto scanner = std::make_unique<xercesc::SGXMLScanner>(handler, nullptr, &entities, &reporter,
-                                                         nullptr, &grammars);
+  auto scanner = std::make_unique<xercesc::SGXMLScanner>(
+      handler, nullptr, &entities, &reporter, nullptr, &grammars, &XmlMemory::Instance());
   scanner->setURIStringPool(grammars.getStringPool());
   scanner->setValidationScheme(xercesc::XMLScanner::Val_Always);
   scanner->setLoadSchema(false);
@@ -125,6 +139,17 @@ std::unique_ptr<xercesc::SGXMLScanner> MakeScanner(xercesc::XMLDocumentHandler* 
 }
 
 const XMLByte* Bytes(const void* data) { return static_cast<const XMLByte*>(data); }
+
+// Does work of Xerces, which has an exception of its own for want of memory.
+template <class Work>
+auto WithMemory(Work work) {
+  XmlMemory::Instance().ForgetShortage();
+  try {
+    return work();
+  } catch (const xercesc::OutOfMemoryException&) {
+    throw std::bad_alloc();
+  }
+}
 
 // Runs the parser; the error that it ended with is left to `explain`.
 template <class Parse, class Explain>
@@ -150,32 +175,34 @@ class XmlEngine::Parser {
               const std::u16string systemId(schema.systemId.begin(), schema.systemId.end());
               return ExplainSchemaComplaint(systemId, reporter_.complaint());
             });
+    XmlMemory::Instance().RequireNoShortage();
     if (!schemaError_.reason.empty()) return;
     pool_.lockPool();
-    grammars_ = std::make_unique<xercesc::GrammarResolver>(&pool_);
+    grammars_ = std::make_unique<xercesc::GrammarResolver>(&pool_, &XmlMemory::Instance());
     scanner_ = MakeScanner(&builder_, entities_, reporter_, *grammars_);
     scanner_->useCachedGrammarInParse(true);
     ownNamespaces_ = namespaces();
-    builder_.onElement = [this] { checkNames(); };
+    XmlMemory::Instance().RequireNoShortage();
+    builder_.onElement = [this] {
+      XmlMemory::Instance().RequireNoShortage();
+      checkNames();
+    };
   }
 
   XmlLoadResult load(std::u16string_view text, XmlTree& tree) {
-    try {
-      XmlLoadResult result;
-      result.error =
-          Run([&] { parse(text, tree); },
-              [&] {
-                return ExplainXmlComplaint(text, reporter_.complaint(),
-                                           {builder_.startedElements(), builder_.openElement()});
-              });
-      result.rootDeclared = builder_.rootDeclared();
-      if (namespaces() > ownNamespaces_ + kMaxXmlForeignNames / 2) retired_ = true;
-      return result;
-    } catch (const xercesc::OutOfMemoryException&) {
-      return outOfMemory();
-    } catch (const std::bad_alloc&) {
-      return outOfMemory();
-    }
+    // What a parser that could not end is good for is not known.
+    retired_ = true;
+    XmlLoadResult result;
+    result.error =
+        Run([&] { parse(text, tree); },
+            [&] {
+              return ExplainXmlComplaint(text, reporter_.complaint(),
+                                         {builder_.startedElements(), builder_.openElement()});
+            });
+    result.rootDeclared = builder_.rootDeclared();
+    XmlMemory::Instance().RequireNoShortage();
+    retired_ = namespaces() > ownNamespaces_ + kMaxXmlForeignNames / 2;
+    return result;
   }
 
   const XmlParseError& schemaError() const { return schemaError_; }
@@ -183,7 +210,7 @@ class XmlEngine::Parser {
 
  private:
   void compile(const XmlSchemaSource& schema) {
-    xercesc::GrammarResolver grammars(&pool_);
+    xercesc::GrammarResolver grammars(&pool_, &XmlMemory::Instance());
     const auto scanner = MakeScanner(nullptr, entities_, reporter_, grammars);
     const xercesc::MemBufInputSource source(Bytes(schema.content.data()), schema.content.size(),
                                             schema.systemId.c_str());
@@ -222,17 +249,12 @@ class XmlEngine::Parser {
                     nullptr, nullptr, place.getLineNumber(), place.getColumnNumber());
   }
 
-  XmlLoadResult outOfMemory() {
-    retired_ = true;
-    return {MakeXmlError(u"There is not enough memory for the document.", {}), false};
-  }
-
   // First, because everything else needs Xerces up to its end.
   const XercesUse xerces_;
   NoEntities entities_;
   Reporter reporter_;
   XmlTreeBuilder builder_;
-  xercesc::XMLGrammarPoolImpl pool_;
+  xercesc::XMLGrammarPoolImpl pool_{&XmlMemory::Instance()};
   std::unique_ptr<xercesc::GrammarResolver> grammars_;
   std::unique_ptr<xercesc::SGXMLScanner> scanner_;
   XmlParseError schemaError_;
@@ -240,14 +262,18 @@ class XmlEngine::Parser {
   bool retired_ = false;
 };
 
-XmlEngine::XmlEngine(const XmlSchemaSource& schema) : parser_(std::make_unique<Parser>(schema)) {}
+XmlEngine::XmlEngine(const XmlSchemaSource& schema)
+    : parser_(WithMemory([&] { return std::make_unique<Parser>(schema); })) {}
 
-XmlEngine::~XmlEngine() = default;
+XmlEngine::~XmlEngine() {
+  const XmlMemory::Release release(XmlMemory::Instance());
+  parser_.reset();
+}
 
 const XmlParseError& XmlEngine::schemaError() const { return parser_->schemaError(); }
 
 XmlLoadResult XmlEngine::load(std::u16string_view text, XmlTree& tree) {
-  return parser_->load(text, tree);
+  return WithMemory([&] { return parser_->load(text, tree); });
 }
 
 bool XmlEngine::retired() const { return parser_->retired(); }

@@ -31,6 +31,7 @@ struct XmlLoadResult {
 class XmlEngine {
  public:
   /// Compiles the schema. Where `schemaError` gives a reason afterwards, nothing can be loaded.
+  /// Here as in `load`, want of memory raises std::bad_alloc.
   explicit XmlEngine(const XmlSchemaSource& schema);
   ~XmlEngine();
 
@@ -38,7 +39,7 @@ class XmlEngine {
   /// Adds the nodes of a checked text to an empty tree. The names of the nodes are valid until the
   /// next load.
   XmlLoadResult load(std::u16string_view text, XmlTree& tree);
-  /// Whether the engine has to make room for a new one, having grown or run out of memory.
+  /// Whether the engine has to make room for a new one, having grown or not finished a load.
   bool retired() const;
 
  private:
