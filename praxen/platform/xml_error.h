@@ -23,6 +23,7 @@ struct XmlParseError {
   /// A sentence, followed by the place in the form " (line 12, column 8)" if there is one; empty
   /// after a successful load.
   std::u16string reason;
+  /// In the text; none when the schema is at fault.
   XmlPosition position;
 };
 

@@ -316,9 +316,15 @@ XmlParseError ExplainXmlComplaint(std::u16string_view text, const XmlComplaint& 
 }
 
 XmlParseError ExplainSchemaComplaint(std::u16string_view systemId, const XmlComplaint& complaint) {
-  return MakeXmlError(AsSentence(u"The schema '" + std::u16string(systemId) +
-                                 u"' cannot be used: " + complaint.text),
-                      complaint.position);
+  std::u16string place;
+  if (complaint.position.line != 0) {
+    place = u" (line " + XmlDecimal(complaint.position.line) + u", column " +
+            XmlDecimal(complaint.position.column) + u" of the schema)";
+  }
+  return {AsSentence(u"The schema '" + std::u16string(systemId) + u"' cannot be used: " +
+                     complaint.text) +
+              place,
+          {}};
 }
 
 }  // namespace praxen

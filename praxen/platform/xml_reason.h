@@ -37,7 +37,8 @@ struct XmlProgress {
 XmlParseError ExplainXmlComplaint(std::u16string_view text, const XmlComplaint& complaint,
                                   const XmlProgress& progress);
 
-/// The reason for a complaint about a schema document.
+/// The reason for a complaint about a schema document. It names the place there, which is none in
+/// the document that was to be read.
 XmlParseError ExplainSchemaComplaint(std::u16string_view systemId, const XmlComplaint& complaint);
 
 }  // namespace praxen

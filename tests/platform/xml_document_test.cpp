@@ -325,10 +325,12 @@ TEST(XmlDocument, SchemaThatCannotBeUsedFailsEveryLoadUntilItCan) {
   const auto reasonWith = [&](const std::string& content) {
     schema.content = content;
     EXPECT_FALSE(document.loadXML(kGood));
+    EXPECT_EQ(document.parseError().position, XmlPosition());
     return Narrow(document.parseError().reason);
   };
-  EXPECT_NE(reasonWith("<xs:schema").find("The schema 'test.xsd' cannot be used: "),
-            std::string::npos);
+  const std::string reason = reasonWith("<xs:schema\n xs:a");
+  EXPECT_TRUE(reason.starts_with("The schema 'test.xsd' cannot be used: ")) << reason;
+  EXPECT_TRUE(reason.ends_with(" (line 2, column 6 of the schema)")) << reason;
   EXPECT_NE(reasonWith("").find("The schema 'test.xsd' cannot be used: "), std::string::npos);
   std::string content = kSchema;
   EXPECT_NE(reasonWith(content.replace(content.find("xs:int"), 6, "xs:odd")).find("odd"),
