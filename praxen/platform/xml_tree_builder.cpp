@@ -42,20 +42,28 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration, un
                            ? element->name
                            : foreignNames_.intern(qualified(prefix, declaration.getBaseName()));
 
+  ++element_;
   XmlAttribute* const run = tree_->newAttributes(attributeCount);
+  size_t count = 0;
   size_t cursor = 0;
   for (XMLSize_t i = 0; i < attributeCount; ++i) {
     const xercesc::XMLAttr& given = *attributes.elementAt(i);
     const bool specified = given.getSpecified();
     KnownAttribute* const attribute = element == nullptr ? nullptr : find(*element, cursor, given);
+    if (attribute != nullptr) {
+      // Where it does not validate, as inside an unknown element, Xerces adds the default of an
+      // attribute also when the text gives it.
+      if (!specified && attribute->givenIn == element_) continue;
+      attribute->givenIn = element_;
+    }
     const std::u16string_view value =
         specified ? tree_->copy(given.getValue()) : defaultValue(attribute, given.getValue());
-    run[i] = {attribute != nullptr
-                  ? attribute->name
-                  : foreignNames_.intern(qualified(given.getPrefix(), given.getName())),
-              value.data(), static_cast<uint32_t>(value.size()), specified};
+    run[count++] = {attribute != nullptr
+                        ? attribute->name
+                        : foreignNames_.intern(qualified(given.getPrefix(), given.getName())),
+                    value.data(), static_cast<uint32_t>(value.size()), specified};
   }
-  tree_->addElement(name, {run, attributeCount});
+  tree_->addElement(name, {run, count});
   if (onElement) onElement();
 }
 
@@ -95,7 +103,7 @@ XmlTreeBuilder::KnownAttribute* XmlTreeBuilder::find(KnownElement& element, size
     return &all[i];
   }
   if (all.size() == kRememberedAttributes) return nullptr;
-  all.push_back({schemaNames_.intern(name), {}});
+  all.push_back({schemaNames_.intern(name)});
   cursor = all.size();
   return &all.back();
 }

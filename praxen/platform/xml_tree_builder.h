@@ -56,7 +56,9 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
  private:
   struct KnownAttribute {
     XmlName name;
-    std::u16string_view defaultValue;
+    std::u16string_view defaultValue = {};
+    // The number of the last element that has it.
+    size_t givenIn = 0;
   };
   struct KnownElement {
     XmlName name = nullptr;
@@ -71,6 +73,8 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
 
   XmlTree* tree_ = nullptr;
   size_t startedElements_ = 0;
+  // The number of the element over all loads.
+  size_t element_ = 0;
   bool rootDeclared_ = false;
 
   XmlNameUser schemaNames_;
