@@ -1,0 +1,106 @@
+// Takes the place of the allocator of the process; what it does not fail, the former one serves.
+#include "tests/support/failing_allocator.h"
+
+#include <cstdlib>
+#include <limits>
+#include <new>
+
+#ifdef __has_feature
+#if __has_feature(address_sanitizer)
+#define PRAXEN_SANITIZED_MALLOC
+#endif
+#endif
+
+#ifdef PRAXEN_SANITIZED_MALLOC
+extern "C" {
+void* __interceptor_malloc(size_t size);
+void* __interceptor_calloc(size_t count, size_t size);
+void* __interceptor_realloc(void* memory, size_t size);
+}
+namespace {
+constexpr auto former_malloc = &__interceptor_malloc;
+constexpr auto former_calloc = &__interceptor_calloc;
+constexpr auto former_realloc = &__interceptor_realloc;
+}  // namespace
+#elif defined(__GLIBC__)
+extern "C" {
+void* __libc_malloc(size_t size);
+void* __libc_calloc(size_t count, size_t size);
+void* __libc_realloc(void* memory, size_t size);
+}
+namespace {
+constexpr auto former_malloc = &__libc_malloc;
+constexpr auto former_calloc = &__libc_calloc;
+constexpr auto former_realloc = &__libc_realloc;
+}  // namespace
+#else
+namespace {
+constexpr auto former_malloc = &std::malloc;
+}
+#endif
+
+namespace {
+
+constexpr size_t kNever = std::numeric_limits<size_t>::max();
+
+constinit size_t requests_left = kNever;
+constinit bool fails_from_then_on = false;
+constinit bool has_failed = false;
+
+bool Fails() {
+  if (requests_left == kNever) return false;
+  if (has_failed) return fails_from_then_on;
+  has_failed = --requests_left == 0;
+  return has_failed;
+}
+
+void* Allocate(size_t size) noexcept {
+  return Fails() ? nullptr : former_malloc(size == 0 ? 1 : size);
+}
+
+void* AllocateOrThrow(size_t size) {
+  void* const memory = Allocate(size);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+
+}  // namespace
+
+#if defined(PRAXEN_SANITIZED_MALLOC) || defined(__GLIBC__)
+extern "C" {
+
+void* malloc(size_t size) noexcept { return Fails() ? nullptr : former_malloc(size); }
+void* calloc(size_t count, size_t size) noexcept {
+  return Fails() ? nullptr : former_calloc(count, size);
+}
+void* realloc(void* memory, size_t size) noexcept {
+  return Fails() ? nullptr : former_realloc(memory, size);
+}
+
+}  // extern "C"
+#endif
+
+void* operator new(size_t size) { return AllocateOrThrow(size); }
+void* operator new[](size_t size) { return AllocateOrThrow(size); }
+void* operator new(size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
+void* operator new[](size_t size, const std::nothrow_t&) noexcept { return Allocate(size); }
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete[](void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, size_t) noexcept { std::free(memory); }
+void operator delete[](void* memory, size_t) noexcept { std::free(memory); }
+void operator delete(void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
+void operator delete[](void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
+
+namespace praxen {
+
+FailingAllocator::FailingAllocator(size_t request, Failing failing) {
+  fails_from_then_on = failing == Failing::FromThenOn;
+  has_failed = false;
+  requests_left = request;
+}
+
+FailingAllocator::~FailingAllocator() { requests_left = kNever; }
+
+bool FailingAllocator::hasFailed() const { return has_failed; }
+
+}  // namespace praxen

@@ -1,0 +1,28 @@
+// An allocator that runs out of memory when a test asks it to.
+#ifndef PRAXEN_TESTS_SUPPORT_FAILING_ALLOCATOR_H_
+#define PRAXEN_TESTS_SUPPORT_FAILING_ALLOCATOR_H_
+
+#include <cstddef>
+
+namespace praxen {
+
+/// While it lives, requests for memory of the process fail: operator new raises std::bad_alloc, and
+/// malloc, calloc and realloc return null pointers where the system lets a program replace them.
+/// One lives at a time.
+class FailingAllocator {
+ public:
+  enum class Failing { Once, FromThenOn };
+
+  /// The request with that number, counted from 1, is the first to fail.
+  FailingAllocator(size_t request, Failing failing);
+  FailingAllocator(const FailingAllocator&) = delete;
+  FailingAllocator& operator=(const FailingAllocator&) = delete;
+  ~FailingAllocator();
+
+  /// Whether a request has failed yet.
+  bool hasFailed() const;
+};
+
+}  // namespace praxen
+
+#endif  // PRAXEN_TESTS_SUPPORT_FAILING_ALLOCATOR_H_
