@@ -101,32 +101,5 @@ TEST(Writing, MissingObjectsAreErrorsOrLeftOut) {
   EXPECT_EQ(ErrorOf([&] { Markup(*size); }), "800A005B Object variable not set");
 }
 
-// Of 10,000 nested objects, or an object inside itself, writing reports the error; what the client
-// built can be released without a deep stack.
-TEST(Writing, EndlessNestingIsRefused) {
-  const auto outermost = ObjectFactory::NewSFCCodeBlock(u"Chart");
-  Ref<SFCElements> elements = outermost->SFCElements;
-  for (int depth = 0; depth < 10000; ++depth) {
-    elements = elements->AddSubSequence1(u"S")->SFCElements;
-  }
-  EXPECT_EQ(ErrorOf([&] { outermost->Serialize(); }).substr(0, 23), "800A001C Nested deeper ");
-
-  const auto unit = ObjectFactory::NewHWUnit(u"0");
-  unit->HWUnits->Add(unit);
-  EXPECT_EQ(ErrorOf([&] { unit->Serialize(); }).substr(0, 23), "800A001C Nested deeper ");
-  unit->HWUnits->Remove(1);
-  EXPECT_EQ(Markup(*unit), "<HWUnit Path='0' TypeID='' TypeDescription=''><HWUnits /></HWUnit>");
-}
-
-TEST(Writing, NestingUpToTheLimitGoesBothWays) {
-  const auto outermost = ObjectFactory::NewSFCCodeBlock(u"Chart");
-  Ref<SFCElements> elements = outermost->SFCElements;
-  for (int depth = 0; depth < 999; ++depth) {
-    elements = elements->AddSubSequence1(u"S")->SFCElements;
-  }
-  const Text document = outermost->Serialize();
-  EXPECT_EQ(ObjectFactory::DeserializeCodeBlock(document)->Serialize(), document);
-}
-
 }  // namespace
 }  // namespace praxen

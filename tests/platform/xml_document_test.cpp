@@ -261,6 +261,8 @@ INSTANTIATE_TEST_SUITE_P(
                     nullptr},
         HostileCase{"too deep", [] { return Repeated(u"<a>", 100'000); },
                     "Too many nested elements; at most 1000 are allowed. (line 1, column 3001)"},
+        HostileCase{"one too deep", [] { return Repeated(u"<a>", 1001); },
+                    "Too many nested elements; at most 1000 are allowed. (line 1, column 3001)"},
         HostileCase{"marks of nesting that are none",
                     [] {
                       return u"<a b='" + Repeated(u">", 5000) + u"'><!--" + Repeated(u"<a>", 5000) +
@@ -270,16 +272,26 @@ INSTANTIATE_TEST_SUITE_P(
                     nullptr},
         HostileCase{"many attributes", [] { return u"<a" + Numbered(u" a#='#'", 1000) + u"/>"; },
                     nullptr},
+        HostileCase{"one attribute too many",
+                    [] { return u"<a" + Numbered(u" a#='#'", 1001) + u"/>"; },
+                    "Too many attributes on one element; at most 1000 are allowed."},
         HostileCase{"too many attributes",
                     [] { return u"<a" + Numbered(u" a#='#'", 200'000) + u"/>"; },
                     "Too many attributes on one element"},
         HostileCase{"long attribute",
                     [] { return u"<a b='" + Repeated(u"&amp;", 2'000'000) + u"'/>"; }, nullptr},
+        HostileCase{"attribute too long by one",
+                    [] { return u"<a b='" + Repeated(u"c", 10'000'001) + u"'/>"; },
+                    "An attribute value is too long; at most 10000000 characters are allowed."},
         HostileCase{"too long attribute",
                     [] { return u"<a b='" + Repeated(u"c", 50'000'000) + u"'/>"; },
                     "An attribute value is too long"},
         HostileCase{"long text", [] { return u"<a>" + Repeated(u" &#x41;", 3'000'000) + u"</a>"; },
                     nullptr},
+        HostileCase{"long name", [] { return u"<" + Repeated(u"a", 100'000) + u"/>"; }, nullptr},
+        HostileCase{"name too long by one",
+                    [] { return u"<a " + Repeated(u"a", 100'001) + u"=''/>"; },
+                    "A name is too long; at most 100000 characters are allowed."},
         HostileCase{"too long name", [] { return u"<" + Repeated(u"a", 10'000'000) + u"/>"; },
                     "A name is too long"},
         HostileCase{"too long target",
@@ -290,6 +302,22 @@ INSTANTIATE_TEST_SUITE_P(
         HostileCase{"namespaces in scope",
                     [] { return Numbered(u"<a xmlns:p#='u'  xmlns:q#='u' xmlns:r#='u'>", 999); },
                     "Too many namespace declarations in scope"},
+        HostileCase{"as many namespaces in scope as there may be",
+                    [] {
+                      return Numbered(u"<a xmlns:p#='u'>", 999) + u"<a xmlns:q='u'/>" +
+                             Repeated(u"</a>", 999);
+                    },
+                    nullptr},
+        HostileCase{"one namespace in scope too many",
+                    [] {
+                      return Numbered(u"<a xmlns:p#='u'>", 999) + u"<a xmlns:q='u' xmlns:r='u'/>" +
+                             Repeated(u"</a>", 999);
+                    },
+                    "Too many namespace declarations in scope; at most 1000 are allowed."},
+        HostileCase{"as many names as there may be",
+                    [] { return u"<a>" + Numbered(u"<b#/>", 1999) + u"</a>"; }, nullptr},
+        HostileCase{"one name too many", [] { return u"<a>" + Numbered(u"<b#/>", 2000) + u"</a>"; },
+                    "Too many different names that the schema does not declare; at most 2000 are"},
         HostileCase{"namespaces one after the other",
                     [] { return u"<a>" + Numbered(u"<b xmlns:p='u#'/>", 1'000'000) + u"</a>"; },
                     "Too many different names"},
@@ -304,6 +332,15 @@ INSTANTIATE_TEST_SUITE_P(
                     "expected ']]>'"},
         HostileCase{"many start tags without end", [] { return Repeated(u"<a b='", 2'000'000); },
                     "line 1, column"}));
+
+// Of a text that is too long nothing is looked at.
+TEST(XmlDocument, RefusesATextThatIsTooLong) {
+  const std::u16string few = u"<a/>";
+  EXPECT_FALSE(Shared().loadXML({few.data(), 500'000'001}));
+  EXPECT_EQ(Narrow(Shared().parseError().reason),
+            "The document is too long; at most 500000000 characters are allowed.");
+  EXPECT_EQ(Shared().parseError().position, XmlPosition());
+}
 
 TEST(XmlDocument, AsksForTheSchemaOnceAndWhenFirstNeeded) {
   int asked = 0;
