@@ -124,6 +124,11 @@ void ObjectToVariant(Object* object, tagVARIANT& variant) {
   variant.vt = VT_DISPATCH;
 }
 
+void EnumeratorToVariant(Object* enumerator, tagVARIANT& variant) {
+  ObjectToVariant(enumerator, variant);
+  variant.vt = VT_UNKNOWN;
+}
+
 void ThrowWrongClass(const tagVARIANT& variant) {
   throw ArgumentError{DISP_E_TYPEMISMATCH, &variant};
 }

@@ -103,6 +103,8 @@ void AnyFromVariant(void* value, const tagVARIANT& variant);
 /// held through `adapt`, when that is given. Throws `ArgumentError` for anything else.
 Ref<Object> ObjectFromVariant(const tagVARIANT& variant, Ref<Object> (*adapt)(Interface*));
 void ObjectToVariant(Object* object, tagVARIANT& variant);
+/// An enumerator has no members, so it is handed out as an object that cannot be called.
+void EnumeratorToVariant(Object* enumerator, tagVARIANT& variant);
 [[noreturn]] void ThrowWrongClass(const tagVARIANT& variant);
 
 }  // namespace value_type
@@ -145,10 +147,11 @@ constexpr ValueType MakeValueType() {
     return {ValueKind::Any, nullptr, nullptr, nullptr, AnyFromVariant};
   } else {
     using Target = typename RefTarget<T>::type;
-    return {std::is_same_v<Target, Enumerator> ? ValueKind::Enumerator : ValueKind::Object, nullptr,
-            &Describe<Target>,
+    constexpr bool kIsEnumerator = std::is_same_v<Target, Enumerator>;
+    return {kIsEnumerator ? ValueKind::Enumerator : ValueKind::Object, nullptr, &Describe<Target>,
             [](const void* value, tagVARIANT& variant) {
-              ObjectToVariant(static_cast<const T*>(value)->get(), variant);
+              constexpr auto store = kIsEnumerator ? EnumeratorToVariant : ObjectToVariant;
+              store(static_cast<const T*>(value)->get(), variant);
             },
             [](void* value, const tagVARIANT& variant) {
               const Ref<Object> object = ObjectFromVariant(variant, kAdapt<Target>);

@@ -10,7 +10,8 @@ using Enumerator = ComPointer<IEnumVARIANT>;
 
 Enumerator EnumeratorOf(const Handle& list) {
   const Outcome outcome = Invoke(list, DISPID_NEWENUM, DISPATCH_METHOD | DISPATCH_PROPERTYGET, {});
-  if (outcome.value.vt != VT_UNKNOWN && outcome.value.vt != VT_DISPATCH) return {};
+  // Not VT_DISPATCH: a client may call what is of that type.
+  if (outcome.value.vt != VT_UNKNOWN) return {};
   return ComPointer<IUnknown>(outcome.value.punkVal).As<IEnumVARIANT>(IID_IEnumVARIANT);
 }
 
