@@ -1,0 +1,56 @@
+// Feeds any UTF-16 text, half characters included, to one of the factory's reading operations,
+// which the first byte chooses; what is read must survive being written and read.
+#include <vector>
+
+#include "fuzz/input.h"
+#include "fuzz/promises.h"
+#include "praxen/describe/value_type.h"
+#include "praxen/platform/automation_values.h"
+#include "praxen/praxen.h"
+
+namespace {
+
+using praxen::Member;
+using praxen::Variant;
+
+const std::vector<const Member*>& ReadingOperations() {
+  static const std::vector<const Member*> operations = [] {
+    std::vector<const Member*> found;
+    for (const Member& member : praxen::Describe<praxen::ObjectFactory>().members) {
+      if (member.name.starts_with("Deserialize")) found.push_back(&member);
+    }
+    return found;
+  }();
+  return operations;
+}
+
+// As automation clients may pass it: of any number of bytes.
+Variant ToVariant(const praxen::FuzzInput& input) {
+  Variant text;
+  text.bstrVal = SysAllocStringByteLen(reinterpret_cast<const char*>(input.data()),
+                                       static_cast<UINT>(input.size()));
+  text.vt = VT_BSTR;
+  return text;
+}
+
+void Read(praxen::FuzzInput input) {
+  const auto& operations = ReadingOperations();
+  const Member& operation = *operations[input.Below(operations.size())];
+  const Variant text = ToVariant(input);
+  const VARIANT* const argument = &text;
+  Variant result;
+  const bool isRead = praxen::Succeeds(praxen::ReadingErrors(), [&] {
+    operation.invokeGet(praxen::Library::Instance().factory(), &argument, result);
+  });
+  if (!isRead) return;
+  praxen::HoldRoundTrip(*praxen::value_type::ObjectFromVariant(result, nullptr),
+                        praxen::Values::Carried);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  const praxen::NothingStays counted;
+  Read({data, size});
+  return 0;
+}
