@@ -24,8 +24,11 @@ std::vector<Peer> ReadingPeers(bool isProgram) {
 
 template <class Class>
 Job WritingJob(const std::string& task, const Ref<Class>& object, size_t amount) {
+  // Once before, because documents of other sizes come in between and leave the writer another
+  // buffer.
   return {task, std::string(kOurs), amount,
-          [object] { return std::make_shared<Text>(object->Serialize()); }};
+          [object] { return std::make_shared<Text>(object->Serialize()); },
+          [object] { object->Serialize(); }};
 }
 
 template <class Class>

@@ -26,6 +26,7 @@ double Median(std::vector<double> values) {
 std::string NameOf(const Job& job) { return job.task + ", " + job.means; }
 
 void Run(benchmark::State& state, const Job& job) {
+  job.prepare();
   double release = 0;
   for ([[maybe_unused]] auto round : state) {
     const auto start = Clock::now();

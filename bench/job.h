@@ -23,6 +23,8 @@ struct Job {
   /// The amount of work: characters of text, or operations.
   size_t amount = 0;
   std::function<Product()> run;
+  /// Runs before each round, and outside the measured time.
+  std::function<void()> prepare = [] {};
 };
 
 /// Medians of the rounds, in seconds, and what one more run allocated.

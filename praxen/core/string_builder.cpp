@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <limits>
-#include <new>
+#include <utility>
 
 #include "praxen/core/error.h"
 
@@ -14,9 +14,10 @@ namespace {
 constexpr int64_t kMostBytes = std::numeric_limits<int32_t>::max();
 constexpr size_t kMostCharacters = static_cast<size_t>(kMostBytes) / sizeof(char16_t);
 
-// A text that is short, or much shorter than one before, is copied: the storage stays with the
-// buffer.
+// A shorter text is copied.
 constexpr size_t kShortestShared = 32768;
+// A text that fills a smaller part of the storage is copied, too, so that a short document between
+// long ones does not cost them the storage; several in a row do.
 constexpr size_t kSmallestSharedPart = 8;
 
 int32_t RoundUp(int64_t bytes, int32_t step) {
@@ -82,6 +83,7 @@ CStringBuilder& CStringBuilder::Insert(int32_t index, std::u16string_view text) 
     throw BufferRangeError(u"CStringBuilder.Insert"_text, u"Argument(s) out of range."_text);
   }
   if (text.empty()) return *this;
+  if (text.size() > kMostCharacters - length_) throw Overflow();
   const Text kept(text);  // The text may be a part of the buffer that is about to move.
   const size_t tail = length_ - static_cast<size_t>(index);
   Extend(kept.size());
@@ -123,9 +125,9 @@ void CStringBuilder::MakeRoom(size_t count) {
 }
 
 Text CStringBuilder::ToString() {
-  if (length_ < std::max(kShortestShared, storage_.capacity() / kSmallestSharedPart)) {
-    return Text(view());
-  }
+  const bool isMuchShorter = length_ < storage_.capacity() / kSmallestSharedPart;
+  const bool isSecond = std::exchange(was_much_shorter_, isMuchShorter);
+  if (length_ < kShortestShared || (isMuchShorter && !isSecond)) return Text(view());
   // A text does not keep more storage than it fills.
   if (!storage_.IsShared() && length_ < storage_.capacity() / 2) storage_.Reserve(length_, length_);
   room_ = length_;

@@ -88,6 +88,8 @@ class CStringBuilder {
   // How far the text may grow before the storage or the capacity has to; no further than the length
   // while a text may stand in the storage.
   size_t room_ = 0;
+  // Whether the text handed out last filled little of the storage.
+  bool was_much_shorter_ = false;
   int32_t capacity_ = 0;
   int32_t growth_step_ = 2048;
 };

@@ -53,8 +53,8 @@ Text Text::Join(std::u16string_view left, std::u16string_view right) {
   Text joined;
   if (left.empty() && right.empty()) return joined;
   char16_t* const characters = Allocate(left.size() + right.size());
-  std::memcpy(characters, left.data(), left.size() * sizeof(char16_t));
-  std::memcpy(characters + left.size(), right.data(), right.size() * sizeof(char16_t));
+  left.copy(characters, left.size());
+  right.copy(characters + left.size(), right.size());
   joined.characters_ = characters;
   return joined;
 }

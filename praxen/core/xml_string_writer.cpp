@@ -154,9 +154,9 @@ char16_t* EndTag(std::u16string_view name, char16_t* to) {
 }  // namespace
 
 XMLStringWriter::XMLStringWriter() {
-  CountObject();
   buffer_.BufferBump(kGrowthStep);
   buffer_.Capacity(kFirstCapacity);
+  CountObject();
 }
 
 XMLStringWriter::~XMLStringWriter() { UncountObject(); }
@@ -197,6 +197,7 @@ void XMLStringWriter::WriteAttributeString(std::u16string_view name, std::u16str
 }
 
 void XMLStringWriter::WriteElementString(std::u16string_view name, std::u16string_view value) {
+  if (depth_ == kDeepestNesting) throw NestedTooDeep();
   char16_t* const end = CloseStartTag(buffer_.Reserve(name.size() + kMostMarkup));
   buffer_.EndAt(Put(u'>', Copy(name, Put(u'<', end))));
   WriteEscaped<false>(value);

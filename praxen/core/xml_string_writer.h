@@ -31,7 +31,8 @@ class XMLStringWriter {
   void WriteEndElement(std::u16string_view name);
   /// Writes an attribute of the element just started.
   void WriteAttributeString(std::u16string_view name, std::u16string_view value);
-  /// Writes an element that holds only text; an empty text gives a start and an end tag.
+  /// Writes an element that holds only text; an empty text gives a start and an end tag. Raises
+  /// `NestedTooDeep` as `WriteStartElement` does.
   void WriteElementString(std::u16string_view name, std::u16string_view value);
   /// Writes the text content of the element just started.
   void WriteElementValue(std::u16string_view value);

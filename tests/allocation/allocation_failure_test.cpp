@@ -95,15 +95,13 @@ Operation Serializing() {
 Operation WritingALongDocument() {
   const auto block = ObjectFactory::NewSTCodeBlock(u"Code");
   block->STcode = std::u16string(200'000, u'<');
-  const auto writer = std::make_shared<std::optional<XMLStringWriter>>();
-  return {.run =
-              [block, writer] {
-                (*writer)->WriteStartDocument();
-                block->IsRoot = true;
-                block->WriteXML(**writer);
-                return (*writer)->ToXMLString();
-              },
-          .prepare = [writer] { writer->emplace(); }};
+  return {[block] {
+    XMLStringWriter writer;
+    writer.WriteStartDocument();
+    block->IsRoot = true;
+    block->WriteXML(writer);
+    return writer.ToXMLString();
+  }};
 }
 
 Operation FailingToSerialize() {

@@ -182,7 +182,7 @@ TEST(NestingOfNames, EndsAtTheLimit) {
   const std::string markup = Markup(*constants);
   EXPECT_EQ(DepthOf(markup), 999u);
   EXPECT_EQ(Rewritten(markup), markup);
-  for (const size_t count : {size_t{501}, size_t{100'000}}) {
+  for (const size_t count : {size_t{500}, size_t{501}, size_t{100'000}}) {
     setSegments(count);
     EXPECT_EQ(ErrorOfWriting(constants), kTooDeep) << count;
   }
