@@ -36,8 +36,10 @@ size_t FindForbidden(std::u16string_view text) {
     if (end - block == kBlock) {
       uint16_t special = 0;
       for (size_t i = 0; i < kBlock; ++i) {
-        const auto fromBlank = static_cast<uint16_t>(characters[block + i] - 0x20);
-        special = static_cast<uint16_t>(special | (fromBlank >= kOrdinary ? 1 : 0));
+        const char16_t c = characters[block + i];
+        const auto fromBlank = static_cast<uint16_t>(c - 0x20);
+        const bool isOrdinary = (fromBlank < kOrdinary) | (c == u'\n') | (c == u'\r') | (c == u'\t');
+        special = static_cast<uint16_t>(special | (isOrdinary ? 0 : 1));
       }
       if (special == 0) continue;
     }

@@ -5,9 +5,20 @@
 #include <exception>
 #include <functional>
 #include <new>
+#include <xercesc/internal/XMLReader.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 
 namespace praxen {
+
+namespace {
+
+// Whether a request is for a reader with its buffers, before which Xerces notes who gave the memory.
+bool IsReader(size_t size) {
+  constexpr size_t kReader = sizeof(xercesc::XMLReader);
+  return size >= kReader && size <= kReader + sizeof(std::max_align_t);
+}
+
+}  // namespace
 
 XmlMemory& XmlMemory::Instance() {
   // In no heap, so that nothing stays behind when the library is unloaded.
@@ -17,18 +28,27 @@ XmlMemory& XmlMemory::Instance() {
 }
 
 void* XmlMemory::allocate(XMLSize_t size) {
-  void* memory = ::operator new(size, std::nothrow);
+  const bool isReader = IsReader(size);
+  void* memory = isReader ? spareReader_.exchange(nullptr) : nullptr;
+  if (memory == nullptr) memory = ::operator new(size, std::nothrow);
   if (memory == nullptr) memory = FromReserve(size);
   if (memory == nullptr) throw xercesc::OutOfMemoryException();
+  if (isReader) return reader_ = memory;
   // Xerces destroys what an array of pointers holds also when it could not fill it to the end.
   return std::memset(memory, 0, size);
 }
 
 void XmlMemory::deallocate(void* memory) {
-  if (!IsReserve(memory)) return ::operator delete(memory);
+  if (!IsReserve(memory)) {
+    void* reader = memory;
+    const bool isReader = memory != nullptr && reader_.compare_exchange_strong(reader, nullptr);
+    return ::operator delete(isReader ? spareReader_.exchange(memory) : memory);
+  }
   const std::lock_guard lock(mutex_);
   if (--pieces_ == 0) used_ = 0;
 }
+
+void XmlMemory::GiveUpSpareReader() noexcept { ::operator delete(spareReader_.exchange(nullptr)); }
 
 void XmlMemory::CountReleases(int change) {
   const std::lock_guard lock(mutex_);

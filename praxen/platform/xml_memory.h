@@ -21,7 +21,10 @@ class XmlMemory final : public xercesc::MemoryManager {
     explicit Release(XmlMemory& memory) : memory_(memory) { memory_.CountReleases(1); }
     Release(const Release&) = delete;
     Release& operator=(const Release&) = delete;
-    ~Release() { memory_.CountReleases(-1); }
+    ~Release() {
+      memory_.CountReleases(-1);
+      memory_.GiveUpSpareReader();
+    }
 
    private:
     XmlMemory& memory_;
@@ -50,10 +53,15 @@ class XmlMemory final : public xercesc::MemoryManager {
   XmlMemory() = default;
 
   void CountReleases(int change);
+  void GiveUpSpareReader() noexcept;
   void* FromReserve(size_t size);
   bool IsReserve(const void* memory) const;
 
   std::mutex mutex_;
+  // The memory of the reader that was given out last, and of one that is back: every document takes
+  // one, and it is too large for the allocator to have at hand.
+  std::atomic<void*> reader_ = nullptr;
+  std::atomic<void*> spareReader_ = nullptr;
   int releases_ = 0;
   std::atomic<bool> shortage_ = false;
   size_t used_ = 0;
