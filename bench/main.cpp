@@ -44,7 +44,9 @@ void InitializeBenchmark(std::vector<std::string> options) {
 }
 
 int Main(int argc, char** argv) {
-  CLI::App app("Measures the library, and others at the same work.");
+  CLI::App app(
+      "Measures the library, and others at the same work. Options of Google Benchmark, such as\n"
+      "--benchmark_filter=REGEX, choose among the jobs.");
   int rounds = 7;
   app.add_option("--rounds", rounds, "How often each job is measured.")
       ->capture_default_str()

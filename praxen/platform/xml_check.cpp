@@ -38,7 +38,8 @@ size_t FindForbidden(std::u16string_view text) {
       for (size_t i = 0; i < kBlock; ++i) {
         const char16_t c = characters[block + i];
         const auto fromBlank = static_cast<uint16_t>(c - 0x20);
-        const bool isOrdinary = (fromBlank < kOrdinary) | (c == u'\n') | (c == u'\r') | (c == u'\t');
+        const bool isOrdinary =
+            (fromBlank < kOrdinary) | (c == u'\n') | (c == u'\r') | (c == u'\t');
         special = static_cast<uint16_t>(special | (isOrdinary ? 0 : 1));
       }
       if (special == 0) continue;

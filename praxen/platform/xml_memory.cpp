@@ -12,7 +12,8 @@ namespace praxen {
 
 namespace {
 
-// Whether a request is for a reader with its buffers, before which Xerces notes who gave the memory.
+// Whether a request is for a reader with its buffers, before which Xerces notes who gave the
+// memory.
 bool IsReader(size_t size) {
   constexpr size_t kReader = sizeof(xercesc::XMLReader);
   return size >= kReader && size <= kReader + sizeof(std::max_align_t);
