@@ -34,9 +34,16 @@ constexpr auto former_calloc = &__libc_calloc;
 constexpr auto former_realloc = &__libc_realloc;
 }  // namespace
 #else
-namespace {
-constexpr auto former_malloc = &std::malloc;
+// Elsewhere the linker leads the program's own calls to those below.
+#define PRAXEN_WRAPPED_MALLOC
+extern "C" {
+void* __real_malloc(size_t size);
+void* __real_realloc(void* memory, size_t size);
 }
+namespace {
+constexpr auto former_malloc = &__real_malloc;
+constexpr auto former_realloc = &__real_realloc;
+}  // namespace
 #endif
 
 namespace {
@@ -66,8 +73,15 @@ void* AllocateOrThrow(size_t size) {
 
 }  // namespace
 
-#if defined(PRAXEN_SANITIZED_MALLOC) || defined(__GLIBC__)
 extern "C" {
+
+#ifdef PRAXEN_WRAPPED_MALLOC
+// The runtime is among the callers, and cannot raise an exception without memory: only one fails.
+void* __wrap_malloc(size_t size) { return !has_failed && Fails() ? nullptr : former_malloc(size); }
+void* __wrap_realloc(void* memory, size_t size) {
+  return !has_failed && Fails() ? nullptr : former_realloc(memory, size);
+}
+#else
 
 void* malloc(size_t size) noexcept { return Fails() ? nullptr : former_malloc(size); }
 void* calloc(size_t count, size_t size) noexcept {
@@ -76,9 +90,9 @@ void* calloc(size_t count, size_t size) noexcept {
 void* realloc(void* memory, size_t size) noexcept {
   return Fails() ? nullptr : former_realloc(memory, size);
 }
+#endif
 
 }  // extern "C"
-#endif
 
 void* operator new(size_t size) { return AllocateOrThrow(size); }
 void* operator new[](size_t size) { return AllocateOrThrow(size); }

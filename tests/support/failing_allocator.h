@@ -7,7 +7,7 @@
 namespace praxen {
 
 /// While it lives, requests for memory of the process fail: operator new raises std::bad_alloc, and
-/// malloc, calloc and realloc return null pointers where the system lets a program replace them.
+/// malloc, calloc and realloc return null pointers; on Windows only one of them does.
 /// One lives at a time.
 class FailingAllocator {
  public:
