@@ -104,8 +104,9 @@ TEST(CStringBuilder, TakesItsStorageBack) {
 
 TEST(CStringBuilder, HandsOutTextsOfAnyLengthAfterALongOne) {
   CStringBuilder builder;
-  for (const size_t length :
-       {1'000'000, 200'000, 40'000, 100, 300'000, 2'000'000, 50'000, 50'000, 50'000}) {
+  constexpr size_t kLengths[] = {1'000'000, 200'000, 40'000, 100,   300'000,
+                                 2'000'000, 50'000,  50'000, 50'000};
+  for (const size_t length : kLengths) {
     builder.Reset();
     builder.Append(Repeat(length)).Insert(0, u"y");
     EXPECT_EQ(builder.ToString(), u"y" + Repeat(length));
