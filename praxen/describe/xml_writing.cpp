@@ -31,6 +31,8 @@ bool IsAbsent(const Attribute& attribute, const void* value) {
       return As<Text>(value) == attribute.absentText;
     case ValueKind::Boolean:
       return As<bool>(value) == (attribute.absentNumber != 0);
+    case ValueKind::Double:
+      return NumberText(As<double>(value)) == attribute.absentText;
     default:
       return As<int32_t>(value) == attribute.absentNumber;
   }

@@ -11,40 +11,22 @@
 #endif
 #endif
 
+// What the functions that fail are called by now. Where they cannot be replaced, the linker leads
+// the program's own calls to those below.
 #ifdef PRAXEN_SANITIZED_MALLOC
-extern "C" {
-void* __interceptor_malloc(size_t size);
-void* __interceptor_calloc(size_t count, size_t size);
-void* __interceptor_realloc(void* memory, size_t size);
-}
-namespace {
-constexpr auto former_malloc = &__interceptor_malloc;
-constexpr auto former_calloc = &__interceptor_calloc;
-constexpr auto former_realloc = &__interceptor_realloc;
-}  // namespace
+#define PRAXEN_FORMER(function) __interceptor_##function
 #elif defined(__GLIBC__)
-extern "C" {
-void* __libc_malloc(size_t size);
-void* __libc_calloc(size_t count, size_t size);
-void* __libc_realloc(void* memory, size_t size);
-}
-namespace {
-constexpr auto former_malloc = &__libc_malloc;
-constexpr auto former_calloc = &__libc_calloc;
-constexpr auto former_realloc = &__libc_realloc;
-}  // namespace
+#define PRAXEN_FORMER(function) __libc_##function
 #else
-// Elsewhere the linker leads the program's own calls to those below.
 #define PRAXEN_WRAPPED_MALLOC
-extern "C" {
-void* __real_malloc(size_t size);
-void* __real_realloc(void* memory, size_t size);
-}
-namespace {
-constexpr auto former_malloc = &__real_malloc;
-constexpr auto former_realloc = &__real_realloc;
-}  // namespace
+#define PRAXEN_FORMER(function) __real_##function
 #endif
+
+extern "C" {
+void* PRAXEN_FORMER(malloc)(size_t size);
+void* PRAXEN_FORMER(calloc)(size_t count, size_t size);
+void* PRAXEN_FORMER(realloc)(void* memory, size_t size);
+}
 
 namespace {
 
@@ -62,7 +44,7 @@ bool Fails() {
 }
 
 void* Allocate(size_t size) noexcept {
-  return Fails() ? nullptr : former_malloc(size == 0 ? 1 : size);
+  return Fails() ? nullptr : PRAXEN_FORMER(malloc)(size == 0 ? 1 : size);
 }
 
 void* AllocateOrThrow(size_t size) {
@@ -77,18 +59,20 @@ extern "C" {
 
 #ifdef PRAXEN_WRAPPED_MALLOC
 // The runtime is among the callers, and cannot raise an exception without memory: only one fails.
-void* __wrap_malloc(size_t size) { return !has_failed && Fails() ? nullptr : former_malloc(size); }
+void* __wrap_malloc(size_t size) {
+  return !has_failed && Fails() ? nullptr : PRAXEN_FORMER(malloc)(size);
+}
 void* __wrap_realloc(void* memory, size_t size) {
-  return !has_failed && Fails() ? nullptr : former_realloc(memory, size);
+  return !has_failed && Fails() ? nullptr : PRAXEN_FORMER(realloc)(memory, size);
 }
 #else
 
-void* malloc(size_t size) noexcept { return Fails() ? nullptr : former_malloc(size); }
+void* malloc(size_t size) noexcept { return Fails() ? nullptr : PRAXEN_FORMER(malloc)(size); }
 void* calloc(size_t count, size_t size) noexcept {
-  return Fails() ? nullptr : former_calloc(count, size);
+  return Fails() ? nullptr : PRAXEN_FORMER(calloc)(count, size);
 }
 void* realloc(void* memory, size_t size) noexcept {
-  return Fails() ? nullptr : former_realloc(memory, size);
+  return Fails() ? nullptr : PRAXEN_FORMER(realloc)(memory, size);
 }
 #endif
 
