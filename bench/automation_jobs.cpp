@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "bench/documents.h"
-#include "praxen/platform/automation_values.h"
+#include "praxen/automation/values.h"
 
 namespace praxen::bench {
 namespace {

@@ -7,7 +7,8 @@
 #include <string>
 
 #include "praxen/describe/description.h"
-#include "praxen/describe/schema.h"
+#include "praxen/factory/classes.h"
+#include "tools/generate/schema.h"
 
 namespace praxen {
 namespace {
@@ -40,8 +41,7 @@ void AddChild(Children& children, const Layout& layout, const Child& child) {
 
 Children CollectChildren() {
   Children children;
-  for (const auto describe : AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const ClassDescription& description : AllClasses()) {
     if (description.layout == nullptr) continue;
     const Layout& layout = description.layout();
     for (const Child& child : layout.children) AddChild(children, layout, child);

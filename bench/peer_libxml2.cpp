@@ -7,7 +7,7 @@
 #include <string>
 
 #include "bench/peers.h"
-#include "praxen/describe/schema.h"
+#include "tools/generate/schema.h"
 
 namespace praxen::bench {
 namespace {

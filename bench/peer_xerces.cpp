@@ -12,7 +12,7 @@
 #include <xercesc/util/XMLUni.hpp>
 
 #include "bench/peers.h"
-#include "praxen/describe/schema.h"
+#include "tools/generate/schema.h"
 
 namespace praxen::bench {
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "praxen/platform/automation_values.h"
-#include "praxen/platform/class_registry.h"
+#include "praxen/automation/create_object.h"
+#include "praxen/automation/values.h"
 
 // The beginning of the interface of a list of variables, in slot order. It has linkage,
 // because a compiler that sees that no class of the program implements it would otherwise take a

@@ -10,8 +10,8 @@
 #include "fuzz/input.h"
 #include "fuzz/object_pool.h"
 #include "fuzz/promises.h"
-#include "praxen/core/library.h"
-#include "praxen/platform/automation_values.h"
+#include "praxen/automation/values.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 #include "fuzz/promises.h"
 #include "fuzz/xml_mutation.h"
 #include "praxen/describe/description.h"
+#include "praxen/factory/classes.h"
 #include "praxen/factory/deserialization.h"
 
 extern "C" size_t LLVMFuzzerMutate(uint8_t* data, size_t size, size_t most);
@@ -36,8 +37,7 @@ void ReadAs(const ClassDescription& description, const Text& document) {
 void Read(std::string_view xml) {
   const Text document = praxen::FromUtf8(xml);
   const std::u16string name = RootName(xml);
-  for (const auto describe : praxen::AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const praxen::ClassDescription& description : praxen::AllClasses()) {
     if (description.create == nullptr || description.FindMember(u"Serialize") == nullptr) continue;
     if (description.layout().element == name) ReadAs(description, document);
   }

@@ -4,8 +4,8 @@
 
 #include "fuzz/input.h"
 #include "fuzz/promises.h"
+#include "praxen/automation/values.h"
 #include "praxen/describe/value_type.h"
-#include "praxen/platform/automation_values.h"
 #include "praxen/praxen.h"
 
 namespace {
@@ -40,7 +40,7 @@ void Read(praxen::FuzzInput input) {
   const VARIANT* const argument = &text;
   Variant result;
   const bool isRead = praxen::Succeeds(praxen::ReadingErrors(), [&] {
-    operation.invokeGet(praxen::Library::Instance().factory(), &argument, result);
+    operation.invokeGet(praxen::SharedFactory(), &argument, result);
   });
   if (!isRead) return;
   praxen::HoldRoundTrip(*praxen::value_type::ObjectFromVariant(result, nullptr),

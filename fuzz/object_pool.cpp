@@ -3,8 +3,9 @@
 
 #include <algorithm>
 
-#include "praxen/core/limits.h"
-#include "praxen/platform/automation_values.h"
+#include "praxen/automation/values.h"
+#include "praxen/factory/classes.h"
+#include "praxen/xml/xml_limits.h"
 
 namespace praxen {
 
@@ -18,8 +19,7 @@ constexpr size_t kMostWritten = 3000;
 // The classes that clients can create and that stand for the class or kind.
 std::vector<const ClassDescription*> ClassesFor(const ClassDescription& wanted) {
   std::vector<const ClassDescription*> classes;
-  for (const auto describe : AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const ClassDescription& description : AllClasses()) {
     if (description.create == nullptr) continue;
     if (&description == &wanted || description.kind == &wanted) classes.push_back(&description);
   }
@@ -48,7 +48,7 @@ void Clear(Object& object) {
 // Takes what the object needs to be written from `left`; false when that is used up.
 bool Count(Object& object, size_t depth, size_t& left) {
   // Writing fails there as well.
-  if (depth > kDeepestNesting) return true;
+  if (depth > kMaxXmlDepth) return true;
   if (left == 0) return false;
   --left;
   for (const Member& member : object.description().members) {

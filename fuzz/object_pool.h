@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "fuzz/input.h"
+#include "praxen/automation/automation.h"
 #include "praxen/describe/description.h"
-#include "praxen/platform/automation.h"
 
 namespace praxen {
 

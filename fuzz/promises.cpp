@@ -5,9 +5,10 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "praxen/core/library.h"
+#include "praxen/core/counters.h"
 #include "praxen/describe/description.h"
 #include "praxen/factory/deserialization.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
 
@@ -77,16 +78,20 @@ void Broken(std::string_view promise, std::u16string_view text) {
 }
 
 std::span<const uint32_t> ReadingErrors() {
-  static const uint32_t numbers[] = {InvalidXml(u"", {}).number(), WrongRootElement().number(),
-                                     WrongElementName().number(),  MissingObject().number(),
-                                     TypeMismatch().number(),      Overflow().number(),
-                                     NestedTooDeep().number()};
+  static const uint32_t numbers[] = {InvalidXml(u"", {}).number(),
+                                     WrongRootElement().number(),
+                                     WrongElementName().number(),
+                                     MissingObject().number(),
+                                     TypeMismatch().number(),
+                                     Overflow().number(),
+                                     NestedTooDeep(kMaxXmlDepth).number()};
   return numbers;
 }
 
 std::span<const uint32_t> WritingErrors() {
   static const uint32_t numbers[] = {RequiredFieldsEmpty().number(), MissingObject().number(),
-                                     NestedTooDeep().number(), InvalidArgument().number()};
+                                     NestedTooDeep(kMaxXmlDepth).number(),
+                                     InvalidArgument().number()};
   return numbers;
 }
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "praxen/core/error.h"
-#include "praxen/core/object.h"
+#include "praxen/describe/object.h"
 
 namespace praxen {
 

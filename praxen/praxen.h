@@ -3,7 +3,6 @@
 #define PRAXEN_PRAXEN_H_
 
 #include "praxen/core/error.h"
-#include "praxen/core/library.h"
 #include "praxen/factory/object_factory.h"
 #include "praxen/model/maintenance.h"
 #include "praxen/model/model.h"

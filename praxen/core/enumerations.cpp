@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
+#include "praxen/core/ascii.h"
 #include "praxen/core/entity_name.h"
-#include "praxen/platform/automation_text.h"
 
 namespace praxen {
 

@@ -1,8 +1,6 @@
 // The numbers and descriptions of the library's errors.
 #include "praxen/core/error.h"
 
-#include "praxen/core/limits.h"
-
 namespace praxen {
 
 Error::Error(uint32_t number, const Text& source, const Text& description, Place place)
@@ -48,10 +46,10 @@ Error Overflow() { return {0x8002000A, {}, u"Overflow"_text}; }
 
 Error MissingObject(const Text& description) { return {0x800A005B, {}, description}; }
 
-Error NestedTooDeep() {
+Error NestedTooDeep(uint32_t deepest) {
   return {0x800A001C,
           {},
-          u"Nested deeper than "_text + FromUtf8(std::to_string(kDeepestNesting)) +
+          u"Nested deeper than "_text + FromUtf8(std::to_string(deepest)) +
               u" elements; an object may contain itself"};
 }
 

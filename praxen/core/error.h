@@ -6,13 +6,10 @@
 #include <exception>
 #include <string>
 
+#include "praxen/core/place.h"
 #include "praxen/core/text.h"
-#include "praxen/platform/xml_error.h"
 
 namespace praxen {
-
-/// A place in a document; a line of 0 means that the place is not known.
-using Place = XmlPosition;
 
 /// An error with its automation code, source and description.
 class Error : public std::exception {
@@ -68,7 +65,7 @@ Error Overflow();
 /// An empty reference where an object is needed, or an attribute that must be there and is not.
 Error MissingObject(const Text& description = u"Object variable not set"_text);
 /// Objects or elements nested deeper than the library follows, as in an object inside itself.
-Error NestedTooDeep();
+Error NestedTooDeep(uint32_t deepest);
 
 }  // namespace praxen
 

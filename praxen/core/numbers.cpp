@@ -9,8 +9,9 @@
 #include <iterator>
 #include <string>
 
+#include "praxen/core/ascii.h"
 #include "praxen/core/error.h"
-#include "praxen/platform/locale.h"
+#include "praxen/core/locale.h"
 
 namespace praxen {
 
@@ -124,6 +125,8 @@ void NumberText::Append(std::string_view characters) {
 void NumberText::AppendZeros(int count) {
   for (; count > 0; --count) Append(u'0');
 }
+
+std::u16string DecimalText(size_t number) { return WidenAscii(std::to_string(number)); }
 
 int32_t TextToInteger(std::u16string_view text) { return Parse<int32_t>(ToAscii(text)); }
 

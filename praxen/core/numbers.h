@@ -3,6 +3,7 @@
 #define PRAXEN_CORE_NUMBERS_H_
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "praxen/core/text.h"
@@ -34,6 +35,9 @@ class NumberText {
   char16_t characters_[48];
   size_t length_ = 0;
 };
+
+/// The decimal digits of a number.
+std::u16string DecimalText(size_t number);
 
 /// The integer of a decimal text with an optional sign and blanks around it; raises `TypeMismatch`
 /// for any other text and `Overflow` beyond 32 bits.

@@ -2,12 +2,12 @@
 #include <cstring>
 #include <new>
 
+#include "praxen/automation/values.h"
 #include "praxen/core/error.h"
 #include "praxen/describe/description.h"
 #include "praxen/describe/foreign_object.h"
 #include "praxen/describe/identifiers.h"
 #include "praxen/describe/slots.h"
-#include "praxen/platform/automation_values.h"
 
 namespace praxen::abi {
 

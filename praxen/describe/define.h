@@ -33,6 +33,11 @@ ClassFacts FactsOf() {
   ClassFacts facts;
   facts.name = TypeName<Class>();
   facts.help = Class::kHelp;
+  constexpr std::string_view kName = TypeName<Class>();
+  static constexpr Uuid kClassId = NamedIdentifier("class ", kName);
+  static constexpr Uuid kInterfaceId = NamedIdentifier("interface _", kName);
+  facts.classId = kClassId;
+  facts.interfaceId = kInterfaceId;
   facts.members = Class::members();
   facts.head = DispatchHead<Object>();
   if constexpr (KindClass<Class>) {

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "praxen/platform/automation_text.h"
+#include "praxen/core/ascii.h"
 
 namespace praxen {
 
@@ -47,13 +47,6 @@ const Member* ClassDescription::FindMember(int32_t id) const noexcept {
   const auto found = std::ranges::find(members, id, &Member::id);
   if (found != members.end()) return &*found;
   return kind == nullptr ? nullptr : kind->FindMember(id);
-}
-
-const ClassDescription* FindClass(std::u16string_view name) noexcept {
-  for (const auto describe : AllClasses()) {
-    if (EqualsIgnoringCase(describe().name, name)) return &describe();
-  }
-  return nullptr;
 }
 
 }  // namespace praxen

@@ -6,16 +6,26 @@
 #include <string_view>
 #include <vector>
 
-#include "praxen/core/object.h"
+#include "praxen/core/uuid.h"
 #include "praxen/describe/layout.h"
 #include "praxen/describe/member.h"
+#include "praxen/describe/object.h"
 
 namespace praxen {
+
+/// The identifier of a name, given in parts, in the namespace of all identifiers of the library.
+template <class... Parts>
+constexpr Uuid NamedIdentifier(const Parts&... name) {
+  constexpr Uuid kNamespace = {
+      0x5c3ad0a4, 0x6a0f, 0x4d0e, {0x9b, 0x6e, 0x2f, 0x81, 0xd7, 0x43, 0x1e, 0x58}};
+  return NameUuid(kNamespace, name...);
+}
 
 /// What a class states of itself.
 struct ClassFacts {
   std::string_view name;
   std::string_view help;
+  Uuid classId, interfaceId;
   Members members;
   /// Null for the kind interfaces that clients cannot create.
   Ref<Object> (*create)() = nullptr;
@@ -50,13 +60,6 @@ struct ClassDescription : ClassFacts {
   std::vector<const void*> table_;
   std::vector<const void*> kind_table_;
 };
-
-/// Every published class in the order of its name, the three kind interfaces that cannot be created
-/// included.
-std::span<const ClassDescription& (*const)()> AllClasses() noexcept;
-
-/// The published class of that name in any letter case; null when there is none.
-const ClassDescription* FindClass(std::u16string_view name) noexcept;
 
 /// Ties `Class` to its description.
 template <class Class, class Base = Object>

@@ -4,12 +4,12 @@
 #include <algorithm>
 #include <vector>
 
+#include "praxen/automation/guard.h"
+#include "praxen/automation/values.h"
+#include "praxen/core/ascii.h"
 #include "praxen/core/error.h"
 #include "praxen/describe/identifiers.h"
 #include "praxen/describe/tear_off.h"
-#include "praxen/platform/automation_guard.h"
-#include "praxen/platform/automation_text.h"
-#include "praxen/platform/automation_values.h"
 
 namespace praxen::dispatch {
 
@@ -221,37 +221,5 @@ HRESULT Invoke(Object& object, DISPID id, WORD flags, DISPPARAMS* parameters, VA
     return Fill(exception, abi::ReportFailure());
   }
 }
-
-#ifdef _WIN32
-
-HRESULT GetTypeInfoCount(UINT* count) noexcept {
-  if (count == nullptr) return E_POINTER;
-  *count = 1;
-  return S_OK;
-}
-
-HRESULT GetTypeInfo(const ClassDescription& description, UINT index, ITypeInfo** out) noexcept {
-  if (out == nullptr) return E_POINTER;
-  *out = nullptr;
-  if (index != 0) return DISP_E_BADINDEX;
-  return Guarded([&] { return GetTypeInformation(InterfaceId(description), out); });
-}
-
-#else
-
-// There are no type libraries, hence no type information.
-HRESULT GetTypeInfoCount(UINT* count) noexcept {
-  if (count == nullptr) return E_POINTER;
-  *count = 0;
-  return S_OK;
-}
-
-HRESULT GetTypeInfo(const ClassDescription&, UINT, ITypeInfo** out) noexcept {
-  if (out == nullptr) return E_POINTER;
-  *out = nullptr;
-  return DISP_E_BADINDEX;
-}
-
-#endif
 
 }  // namespace praxen::dispatch

@@ -5,9 +5,9 @@
 #include <array>
 #include <span>
 
+#include "praxen/automation/automation.h"
 #include "praxen/describe/description.h"
 #include "praxen/describe/slots.h"
-#include "praxen/platform/automation.h"
 
 namespace praxen {
 

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <array>
 
+#include "praxen/automation/values.h"
 #include "praxen/describe/description.h"
 #include "praxen/describe/dispatch.h"
-#include "praxen/platform/automation_values.h"
 
 namespace praxen {
 

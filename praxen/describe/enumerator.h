@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "praxen/core/object.h"
+#include "praxen/describe/object.h"
 #include "praxen/describe/value_type.h"
 
 namespace praxen {

@@ -2,7 +2,7 @@
 #ifndef PRAXEN_DESCRIBE_FOREIGN_OBJECT_H_
 #define PRAXEN_DESCRIBE_FOREIGN_OBJECT_H_
 
-#include "praxen/core/object.h"
+#include "praxen/describe/object.h"
 
 namespace praxen {
 

@@ -2,22 +2,24 @@
 #ifndef PRAXEN_DESCRIBE_IDENTIFIERS_H_
 #define PRAXEN_DESCRIBE_IDENTIFIERS_H_
 
+#include <string>
+#include <string_view>
+
+#include "praxen/automation/guid.h"
 #include "praxen/describe/description.h"
-#include "praxen/platform/automation.h"
 
 namespace praxen {
 
-/// The namespace of all identifiers, which are name-based: version 5 of RFC 4122.
-inline constexpr GUID kIdentifierNamespace = {
-    0x5c3ad0a4, 0x6a0f, 0x4d0e, {0x9b, 0x6e, 0x2f, 0x81, 0xd7, 0x43, 0x1e, 0x58}};
+inline constexpr std::string_view kTypeLibraryVersion = "3.16";
+inline constexpr std::string_view kTypeLibraryHelp = "PraxenHelper 3.16";
 
 GUID ClassId(const ClassDescription& description);
 GUID InterfaceId(const ClassDescription& description);
 GUID EnumerationId(const EnumerationDescription& enumeration);
 GUID TypeLibraryId();
 
-/// The class of that identifier; null when the library has none.
-const ClassDescription* FindClassById(const GUID& id);
+/// The name of a class's default interface, such as "_Variable".
+std::string InterfaceName(const ClassDescription& description);
 
 /// The interface that only objects of this library answer; through it an object is recognised. It
 /// counts by its address, which another copy of the library in the same process does not share.

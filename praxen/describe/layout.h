@@ -10,11 +10,12 @@
 #include <utility>
 #include <vector>
 
+#include "praxen/core/ascii.h"
 #include "praxen/core/entity_name.h"
-#include "praxen/core/object.h"
+#include "praxen/describe/object.h"
 #include "praxen/describe/slots.h"
 #include "praxen/describe/value_type.h"
-#include "praxen/platform/xml_name.h"
+#include "praxen/xml/xml_name.h"
 
 namespace praxen {
 
@@ -165,17 +166,13 @@ void* ValueOf(const Entry& entry, Object& object) noexcept {
 /// Names the element and fills in what attributes hold in a new object.
 Layout CompleteLayout(Layout layout, std::u16string element, Object& created);
 
-inline std::u16string ToUtf16(std::string_view ascii) {
-  return std::u16string(ascii.begin(), ascii.end());
-}
-
 /// The name of the element of a class: its `kElement` where it states one, else its own.
 template <class Class>
 std::u16string ElementName() {
   if constexpr (requires { Class::kElement; }) {
     return Class::kElement;
   } else {
-    return ToUtf16(TypeName<Class>());
+    return WidenAscii(TypeName<Class>());
   }
 }
 
@@ -185,7 +182,7 @@ template <auto Pointer>
 Attribute Make(Rule rule, std::u16string_view name) {
   using Slots = PropertySlots<Pointer>;
   constexpr std::string_view property = EntityName<Pointer>();
-  return {name.empty() ? ToUtf16(property) : std::u16string(name), rule,
+  return {name.empty() ? WidenAscii(property) : std::u16string(name), rule,
           ValueTypeOf<typename Slots::Value>(), &Slots::Address, property};
 }
 
@@ -246,7 +243,7 @@ Child Make(ChildKind kind) {
       return *held;
     };
   } else {
-    child.name = ToUtf16(child.property);
+    child.name = WidenAscii(child.property);
   }
   return child;
 }

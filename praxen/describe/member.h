@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "praxen/core/entity_name.h"
-#include "praxen/core/object.h"
+#include "praxen/describe/object.h"
 #include "praxen/describe/slots.h"
 #include "praxen/describe/value_type.h"
 

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "praxen/core/object.h"
+#include "praxen/describe/object.h"
 #include "praxen/describe/value_type.h"
 
 namespace praxen {

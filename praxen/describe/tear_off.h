@@ -2,20 +2,48 @@
 #ifndef PRAXEN_DESCRIBE_TEAR_OFF_H_
 #define PRAXEN_DESCRIBE_TEAR_OFF_H_
 
-#include "praxen/core/object.h"
-#include "praxen/platform/automation.h"
+#include "praxen/automation/automation.h"
+#include "praxen/describe/dispatch.h"
 
 namespace praxen {
 
-/// Makes ISupportErrorInfo, or on Windows IProvideClassInfo2 and its base, for the object. The
+/// An interface that needs no place in the object. It is counted on its own, so that the object
+/// needs to know nothing of it; any other interface is asked of the object.
+template <class I>
+class TearOff : public I {
+ public:
+  TearOff(const TearOff&) = delete;
+  TearOff& operator=(const TearOff&) = delete;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
+    return dispatch::QueryInterface(*object_, iid, out);
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() override {
+    const ULONG remaining = --references_;
+    if (remaining == 0) delete this;
+    return remaining;
+  }
+
+ protected:
+  explicit TearOff(Object& object) : object_(&object) {}
+  virtual ~TearOff() = default;
+
+  const ClassDescription& description() const { return object_->description(); }
+
+ private:
+  ULONG references_ = 1;
+  const Ref<Object> object_;
+};
+
+/// Makes ISupportErrorInfo, or what `MakeClassInformation` knows, for the object. The
 /// interface keeps the object alive and shares its identity. E_NOINTERFACE for any other
 /// identifier.
 HRESULT MakeTearOff(Object& object, REFIID iid, void** out);
 
-#ifdef _WIN32
-/// The description of a class or interface in the type library that this module carries.
-HRESULT GetTypeInformation(REFGUID id, ITypeInfo** out) noexcept;
-#endif
+/// The same for the interfaces that tell of the class: IProvideClassInfo2 and its base, where the
+/// system knows type libraries.
+HRESULT MakeClassInformation(Object& object, REFIID iid, void** out);
 
 }  // namespace praxen
 

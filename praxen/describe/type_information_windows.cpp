@@ -1,9 +1,12 @@
 // Type information from the type library that the module carries as a resource, so that nothing has
 // to be registered for it.
 #include "praxen/describe/tear_off.h"
-#include "praxen/platform/automation_guard.h"
-#include "praxen/platform/automation_values.h"
-#include "praxen/platform/module_folder.h"
+
+#include "praxen/automation/guard.h"
+#include "praxen/automation/values.h"
+#include "praxen/core/module_folder.h"
+#include "praxen/describe/dispatch.h"
+#include "praxen/describe/identifiers.h"
 
 namespace praxen {
 
@@ -22,8 +25,7 @@ ITypeLib* TypeLibrary() {
   return library;
 }
 
-}  // namespace
-
+// The description of a class or interface in the type library that this module carries.
 HRESULT GetTypeInformation(REFGUID id, ITypeInfo** out) noexcept {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
@@ -31,6 +33,46 @@ HRESULT GetTypeInformation(REFGUID id, ITypeInfo** out) noexcept {
     ITypeLib* const library = TypeLibrary();
     return library == nullptr ? TYPE_E_CANTLOADLIBRARY : library->GetTypeInfoOfGuid(id, out);
   });
+}
+
+class ClassInformation final : public TearOff<IProvideClassInfo2> {
+ public:
+  explicit ClassInformation(Object& object) : TearOff(object) {}
+
+  HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** out) override {
+    return GetTypeInformation(ClassId(description()), out);
+  }
+  // The classes raise no events, so there is no default source.
+  HRESULT STDMETHODCALLTYPE GetGUID(DWORD, GUID* out) override {
+    if (out == nullptr) return E_POINTER;
+    *out = GUID_NULL;
+    return E_INVALIDARG;
+  }
+};
+
+}  // namespace
+
+namespace dispatch {
+
+HRESULT GetTypeInfoCount(UINT* count) noexcept {
+  if (count == nullptr) return E_POINTER;
+  *count = 1;
+  return S_OK;
+}
+
+HRESULT GetTypeInfo(const ClassDescription& description, UINT index, ITypeInfo** out) noexcept {
+  if (out == nullptr) return E_POINTER;
+  *out = nullptr;
+  if (index != 0) return DISP_E_BADINDEX;
+  return Guarded([&] { return GetTypeInformation(InterfaceId(description), out); });
+}
+
+}  // namespace dispatch
+
+HRESULT MakeClassInformation(Object& object, REFIID iid, void** out) {
+  if (iid != IID_IProvideClassInfo && iid != IID_IProvideClassInfo2) return E_NOINTERFACE;
+  *out = new ClassInformation(object);
+  return S_OK;
 }
 
 }  // namespace praxen

@@ -3,9 +3,9 @@
 
 #include <new>
 
+#include "praxen/automation/values.h"
 #include "praxen/core/error.h"
 #include "praxen/describe/slots.h"
-#include "praxen/platform/automation_values.h"
 
 namespace praxen {
 

@@ -6,8 +6,8 @@
 #include <type_traits>
 
 #include "praxen/core/enumerations.h"
-#include "praxen/core/object.h"
 #include "praxen/core/text.h"
+#include "praxen/describe/object.h"
 
 struct tagVARIANT;
 

@@ -20,7 +20,7 @@ void SetText(Text& value, std::u16string_view text) {
 Error MissingAttribute(const XmlNode& node, std::u16string_view name) {
   return MissingObject(u"The attribute \""_text + name + u"\" of \"" + node.nodeName() +
                        u"\" is missing")
-      .At(PlaceOf(node));
+      .At(node.place());
 }
 
 void SetValue(const Attribute& attribute, void* value, std::u16string_view text) {
@@ -50,7 +50,7 @@ void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& no
   try {
     SetValue(attribute, ValueOf(attribute, object), found->value());
   } catch (const Error& error) {
-    throw error.At(PlaceOf(node));
+    throw error.At(node.place());
   }
 }
 
@@ -93,8 +93,6 @@ void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNod
 
 }  // namespace
 
-Place PlaceOf(const XmlNode& node) { return node.position(); }
-
 std::u16string_view RequiredAttribute(const XmlNode& node, std::u16string_view name) {
   const XmlAttribute* const attribute = node.attribute(name);
   if (attribute == nullptr) throw MissingAttribute(node, name);
@@ -107,7 +105,7 @@ bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name) {
 
 std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name) {
   if (!node) return {};
-  if (node.nodeName() != name) throw WrongElementName().At(PlaceOf(node));
+  if (node.nodeName() != name) throw WrongElementName().At(node.place());
   return FirstText(node);
 }
 

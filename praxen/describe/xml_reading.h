@@ -5,9 +5,9 @@
 #include <string_view>
 
 #include "praxen/core/error.h"
-#include "praxen/core/object.h"
 #include "praxen/describe/layout.h"
-#include "praxen/platform/xml_document.h"
+#include "praxen/describe/object.h"
+#include "praxen/xml/xml_document.h"
 
 namespace praxen {
 
@@ -27,9 +27,6 @@ bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name);
 /// The text of an element that holds only text, empty without a node; raises `WrongElementName`
 /// when the node has another name.
 std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name);
-
-/// Where the node stands in the document, for errors.
-Place PlaceOf(const XmlNode& node);
 
 }  // namespace praxen
 

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "praxen/core/error.h"
-#include "praxen/core/library.h"
 #include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
 
@@ -213,7 +212,7 @@ Text SerializableObject::Serialize() {
     ~RootMark() { object.IsRoot = false; }
     Object& object;
   };
-  XMLStringWriter& writer = Library::Instance().writer();
+  XMLStringWriter& writer = SharedWriter();
   writer.WriteStartDocument();
   const RootMark mark(*this);
   WriteXML(writer);

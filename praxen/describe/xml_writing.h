@@ -3,9 +3,9 @@
 #define PRAXEN_DESCRIBE_XML_WRITING_H_
 
 #include "praxen/core/enumerations.h"
-#include "praxen/core/object.h"
-#include "praxen/core/xml_string_writer.h"
 #include "praxen/describe/layout.h"
+#include "praxen/describe/object.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
 

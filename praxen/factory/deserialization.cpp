@@ -10,16 +10,14 @@
 namespace praxen {
 
 Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr) {
-  const Text kept = XMLStr;  // The nodes refer to its characters.
-  const auto document = LoadXMLDocument(kept, description.layout().element);
+  const LoadedDocument document(XMLStr, description.layout().element);
   Ref<Object> object = description.create();
-  object->ReadXML(document->root());
+  object->ReadXML(document.root());
   return object;
 }
 
 Ref<ICodeBlock> CodeBlockDeserialization::operator()(const Text& XMLStr) const {
-  const Text kept = XMLStr;
-  const LoadedDocument document(kept);
+  const LoadedDocument document(XMLStr);
   static const std::array<Choice, 6> languages{choice<FBDCodeBlock>(), choice<ILCodeBlock>(),
                                                choice<LDCodeBlock>(),  choice<SFCCodeBlock>(),
                                                choice<STCodeBlock>(),  choice<FDCodeBlock>()};
@@ -29,7 +27,7 @@ Ref<ICodeBlock> CodeBlockDeserialization::operator()(const Text& XMLStr) const {
     block->ReadXML(document.root());
     return Cast<ICodeBlock>(block);
   }
-  throw WrongRootElement().At(document.root().position());
+  throw WrongRootElement().At(document.root().place());
 }
 
 }  // namespace praxen

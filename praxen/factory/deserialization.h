@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "praxen/core/object.h"
 #include "praxen/describe/description.h"
+#include "praxen/describe/object.h"
 #include "praxen/model/pou/code_block.h"
 
 namespace praxen {

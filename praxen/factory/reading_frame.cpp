@@ -7,10 +7,10 @@
 #include <string>
 
 #include "praxen/core/error.h"
-#include "praxen/core/library.h"
+#include "praxen/core/module_folder.h"
 #include "praxen/describe/shared_texts.h"
 #include "praxen/factory/embedded_schema.h"
-#include "praxen/platform/module_folder.h"
+#include "praxen/factory/library.h"
 
 namespace praxen {
 
@@ -20,7 +20,7 @@ constexpr std::u16string_view kNamespace = u"PraxenSchema3_0";
 constexpr const char* kSchemaFile = "PraxenSchema3_0.xsd";
 
 // The schema file, or an empty path when only the library's own copy is there.
-std::filesystem::path FindSchema() {
+std::filesystem::path FindSchemaFile() {
   std::error_code error;
   const std::filesystem::path beside = ModuleFolder();
   for (const auto& folder : {std::filesystem::current_path(error), beside,
@@ -42,43 +42,35 @@ XmlSchemaSource ReadSchema(const std::filesystem::path& file) {
 
 }  // namespace
 
-std::unique_ptr<XmlDocument> InitXMLReader() {
-  return std::make_unique<XmlDocument>([file = FindSchema()] { return ReadSchema(file); });
+std::function<XmlSchemaSource()> FindSchema() {
+  return [file = FindSchemaFile()] { return ReadSchema(file); };
 }
 
-XmlDocument& GetReaderDocument() { return Library::Instance().readerDocument(); }
+LoadedDocument::LoadedDocument(const Text& XMLStr) : text_(XMLStr), document_(ReaderDocument()) {
+  if (document_.loadXML(text_)) return;
+  const XmlParseError error = document_.parseError();
+  document_.clear();
+  throw InvalidXml(error.reason, error.place);
+}
 
-LoadedDocument::LoadedDocument(const Text& XMLStr) {
-  XmlDocument& document = GetReaderDocument();
-  if (document.loadXML(XMLStr)) return;
-  const XmlParseError error = document.parseError();
-  document.clear();
-  throw InvalidXml(error.reason, error.position);
+LoadedDocument::LoadedDocument(const Text& XMLStr, std::u16string_view rootName)
+    : LoadedDocument(XMLStr) {
+  if (!IsRoot(rootName)) throw WrongRootElement().At(root().place());
 }
 
 LoadedDocument::~LoadedDocument() {
   SharedTexts::Instance().Clear();
-  GetReaderDocument().clear();
+  document_.clear();
 }
-
-XmlNode LoadedDocument::root() const { return GetReaderDocument().documentElement(); }
 
 bool LoadedDocument::IsRoot(std::u16string_view name) const {
   if (root().nodeName() != name) return false;
-  if (GetReaderDocument().rootDeclared()) return true;
+  if (document_.rootDeclared()) return true;
   const XmlParseError error =
       MakeXmlError(u"The element \"" + std::u16string(name) + u"\" is not in the namespace \"" +
                        std::u16string(kNamespace) + u"\".",
-                   root().position());
-  throw InvalidXml(error.reason, error.position);
-}
-
-std::unique_ptr<LoadedDocument> LoadXMLDocument(const Text& XMLStr, std::u16string_view RootName) {
-  auto document = std::make_unique<LoadedDocument>(XMLStr);
-  if (!document->IsRoot(RootName)) {
-    throw WrongRootElement().At(document->root().position());
-  }
-  return document;
+                   root().place());
+  throw InvalidXml(error.reason, error.place);
 }
 
 }  // namespace praxen

@@ -1,41 +1,43 @@
-// The frame of all reading: the shared document with its schema, loading, and the checks of the
-// document element.
+// The frame of all reading: the place of the schema, loading, and the checks of the document
+// element.
 #ifndef PRAXEN_FACTORY_READING_FRAME_H_
 #define PRAXEN_FACTORY_READING_FRAME_H_
 
-#include <memory>
+#include <functional>
 #include <string_view>
 
 #include "praxen/core/text.h"
-#include "praxen/platform/xml_document.h"
+#include "praxen/xml/xml_document.h"
 
 namespace praxen {
 
-/// Makes the reader document and finds the place of the schema: "PraxenSchema3_0.xsd" in the
-/// current folder, beside the library or in the installed data folder, else the copy in the
-/// library. The schema is read and compiled by the first loading.
-std::unique_ptr<XmlDocument> InitXMLReader();
+/// Finds the place of the schema: "PraxenSchema3_0.xsd" in the current folder, beside the library
+/// or in the installed data folder, else the copy in the library. What is returned reads it.
+std::function<XmlSchemaSource()> FindSchema();
 
-/// The one document through which everything is read.
-XmlDocument& GetReaderDocument();
-
-/// Gives up what a reading has loaded when it ends; nothing refers to the caller's text after that.
+/// A document that is being read. What it has loaded is given up when it ends; nothing refers to
+/// the caller's text after that.
 class LoadedDocument {
  public:
   /// Parses and validates the text; raises `InvalidXml`.
   explicit LoadedDocument(const Text& XMLStr);
+  /// The same for a text whose root has to have that name; raises `WrongRootElement` when it has
+  /// another.
+  LoadedDocument(const Text& XMLStr, std::u16string_view rootName);
   LoadedDocument(const LoadedDocument&) = delete;
   LoadedDocument& operator=(const LoadedDocument&) = delete;
   ~LoadedDocument();
 
-  XmlNode root() const;
+  XmlNode root() const { return document_.documentElement(); }
   /// Whether the root has that name; raises `InvalidXml` when it has, but not in the namespace of
   /// the exchange format.
   bool IsRoot(std::u16string_view name) const;
-};
 
-/// Loads a text whose root has that name; raises `WrongRootElement` when it has another.
-std::unique_ptr<LoadedDocument> LoadXMLDocument(const Text& XMLStr, std::u16string_view RootName);
+ private:
+  // The nodes refer to its characters.
+  const Text text_;
+  XmlDocument& document_;
+};
 
 }  // namespace praxen
 

@@ -1,7 +1,8 @@
 #include "praxen/model/maintenance.h"
 
-#include "praxen/core/library.h"
+#include "praxen/core/counters.h"
 #include "praxen/describe/define.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
 

@@ -1,16 +1,17 @@
 // Classes, members and constants as texts, from the descriptions.
-#include "praxen/server/class_information.h"
+#include "praxen/server/class_information_posix.h"
 
 #include <map>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "praxen/automation/guid.h"
 #include "praxen/core/enumerations.h"
 #include "praxen/core/text.h"
 #include "praxen/describe/identifiers.h"
 #include "praxen/describe/slots.h"
-#include "praxen/platform/uuid.h"
+#include "praxen/factory/classes.h"
 #include "praxen/server/registration.h"
 
 namespace praxen {
@@ -20,7 +21,7 @@ namespace {
 std::string WriteClasses() {
   std::string lines;
   for (const ClassDescription* const description : CreatableClasses()) {
-    lines += ProgId(*description) + '\t' + UuidToText(ClassId(*description)) + '\n';
+    lines += ProgId(*description) + '\t' + GuidToText(ClassId(*description)) + '\n';
   }
   return lines;
 }
@@ -91,7 +92,7 @@ const char* PraxenMembers(const char* className) noexcept {
   return praxen::TextOrNull([&]() -> const char* {
     if (className == nullptr) return nullptr;
     const std::string_view name(className);
-    const auto* const found = praxen::FindClass(std::u16string(name.begin(), name.end()));
+    const auto* const found = praxen::FindClass(praxen::WidenAscii(name));
     return found == nullptr ? nullptr : praxen::TextsOf(*found).members.c_str();
   });
 }

@@ -1,10 +1,11 @@
 // Class objects: one is made for each request and keeps the library loaded as objects do.
 #include "praxen/server/class_object.h"
 
-#include "praxen/core/library.h"
+#include "praxen/automation/guard.h"
+#include "praxen/automation/values.h"
+#include "praxen/core/counters.h"
 #include "praxen/describe/identifiers.h"
-#include "praxen/platform/automation_guard.h"
-#include "praxen/platform/automation_values.h"
+#include "praxen/factory/classes.h"
 
 namespace praxen {
 
@@ -65,7 +66,7 @@ HRESULT GetClassObject(REFCLSID clsid, REFIID iid, void** out) noexcept {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
   return Guarded([&]() -> HRESULT {
-    const ClassDescription* const description = FindClassById(clsid);
+    const ClassDescription* const description = FindClassById(ToUuid(clsid));
     if (description == nullptr || description->create == nullptr) return CLASS_E_CLASSNOTAVAILABLE;
     const auto made = ComPointer<ClassObject>::Attach(new ClassObject(*description));
     return made->QueryInterface(iid, out);

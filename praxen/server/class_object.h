@@ -2,7 +2,7 @@
 #ifndef PRAXEN_SERVER_CLASS_OBJECT_H_
 #define PRAXEN_SERVER_CLASS_OBJECT_H_
 
-#include "praxen/platform/automation.h"
+#include "praxen/automation/automation.h"
 
 namespace praxen {
 

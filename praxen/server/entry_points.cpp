@@ -1,5 +1,5 @@
 // The entry points through which the system uses the library as an in-process server.
-#include "praxen/platform/class_registry.h"
+#include "praxen/automation/automation.h"
 #include "praxen/server/class_object.h"
 #include "praxen/server/registration.h"
 

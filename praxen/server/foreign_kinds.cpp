@@ -1,6 +1,7 @@
 // Adapters through which the model holds clients' own implementations of the kinds.
 #include <string_view>
 
+#include "praxen/automation/values.h"
 #include "praxen/core/error.h"
 #include "praxen/describe/foreign_object.h"
 #include "praxen/describe/identifiers.h"
@@ -9,7 +10,6 @@
 #include "praxen/model/pou/code_block.h"
 #include "praxen/model/pou/i_control_module.h"
 #include "praxen/model/pou/sfc_element.h"
-#include "praxen/platform/automation_values.h"
 
 namespace praxen {
 

@@ -1,24 +1,24 @@
 // What is registered of the library, as data.
 #include "praxen/server/registration.h"
 
+#include "praxen/automation/guid.h"
 #include "praxen/core/text.h"
 #include "praxen/describe/identifiers.h"
-#include "praxen/describe/type_library.h"
-#include "praxen/platform/uuid.h"
+#include "praxen/factory/classes.h"
 
 namespace praxen {
 
 namespace {
 
 std::string ClassKey(const ClassDescription& description) {
-  return "CLSID\\" + UuidToText(ClassId(description));
+  return "CLSID\\" + GuidToText(ClassId(description));
 }
 
 std::string InterfaceKey(const ClassDescription& description) {
-  return "Interface\\" + UuidToText(InterfaceId(description));
+  return "Interface\\" + GuidToText(InterfaceId(description));
 }
 
-std::string AllVersionsKey() { return "TypeLib\\" + UuidToText(TypeLibraryId()); }
+std::string AllVersionsKey() { return "TypeLib\\" + GuidToText(TypeLibraryId()); }
 
 // The registry spells the parts of a version as hexadecimal numbers.
 constexpr std::u16string_view kVersionInRegistry = u"3.10";
@@ -31,7 +31,7 @@ using Values = std::vector<RegistryValue>;
 void AppendClass(Values& values, const ClassDescription& description, const std::u16string& file) {
   const std::string key = ClassKey(description);
   const std::u16string name = FromUtf8(ProgId(description));
-  const std::u16string id = FromUtf8(UuidToText(ClassId(description)));
+  const std::u16string id = FromUtf8(GuidToText(ClassId(description)));
   values.push_back({ProgId(description), "", name});
   values.push_back({ProgId(description) + "\\CLSID", "", id});
   values.push_back({key, "", name});
@@ -39,7 +39,7 @@ void AppendClass(Values& values, const ClassDescription& description, const std:
   values.push_back({key + "\\InprocServer32", "ThreadingModel", u"Apartment"});
   values.push_back({key + "\\ProgID", "", name});
   values.push_back({key + "\\Programmable", "", u""});
-  values.push_back({key + "\\TypeLib", "", FromUtf8(UuidToText(TypeLibraryId()))});
+  values.push_back({key + "\\TypeLib", "", FromUtf8(GuidToText(TypeLibraryId()))});
   values.push_back({key + "\\Version", "", FromUtf8(kTypeLibraryVersion)});
 }
 
@@ -48,7 +48,7 @@ void AppendInterface(Values& values, const ClassDescription& description) {
   const std::string key = InterfaceKey(description);
   values.push_back({key, "", FromUtf8(InterfaceName(description))});
   values.push_back({key + "\\ProxyStubClsid32", "", FromUtf8(kAutomationProxy)});
-  values.push_back({key + "\\TypeLib", "", FromUtf8(UuidToText(TypeLibraryId()))});
+  values.push_back({key + "\\TypeLib", "", FromUtf8(GuidToText(TypeLibraryId()))});
   values.push_back({key + "\\TypeLib", "Version", std::u16string(kVersionInRegistry)});
 }
 
@@ -68,8 +68,8 @@ std::string ProgId(const ClassDescription& description) {
 
 std::vector<const ClassDescription*> CreatableClasses() {
   std::vector<const ClassDescription*> classes;
-  for (const auto describe : AllClasses()) {
-    if (describe().create != nullptr) classes.push_back(&describe());
+  for (const ClassDescription& description : AllClasses()) {
+    if (description.create != nullptr) classes.push_back(&description);
   }
   return classes;
 }
@@ -79,7 +79,7 @@ std::vector<RegistryValue> RegistryValues(const std::u16string& file) {
   for (const ClassDescription* const description : CreatableClasses()) {
     AppendClass(values, *description, file);
   }
-  for (const auto describe : AllClasses()) AppendInterface(values, describe());
+  for (const ClassDescription& description : AllClasses()) AppendInterface(values, description);
   AppendTypeLibrary(values, file);
   return values;
 }
@@ -90,7 +90,8 @@ std::vector<std::string> RegistryKeys() {
     keys.push_back(ProgId(*description));
     keys.push_back(ClassKey(*description));
   }
-  for (const auto describe : AllClasses()) keys.push_back(InterfaceKey(describe()));
+  for (const ClassDescription& description : AllClasses())
+    keys.push_back(InterfaceKey(description));
   return keys;
 }
 

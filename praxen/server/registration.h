@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "praxen/automation/automation.h"
 #include "praxen/describe/description.h"
-#include "praxen/platform/automation.h"
 
 namespace praxen {
 

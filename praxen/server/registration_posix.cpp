@@ -1,8 +1,8 @@
 // Registration in the user's file of classes.
+#include "praxen/automation/class_registry_posix.h"
+#include "praxen/automation/guard.h"
+#include "praxen/core/module_folder.h"
 #include "praxen/describe/identifiers.h"
-#include "praxen/platform/automation_guard.h"
-#include "praxen/platform/class_registry.h"
-#include "praxen/platform/module_folder.h"
 #include "praxen/server/registration.h"
 
 namespace praxen {

@@ -1,6 +1,6 @@
 // Registration in the registry of Windows, for the machine or the user.
-#include "praxen/platform/automation_guard.h"
-#include "praxen/platform/module_folder.h"
+#include "praxen/automation/guard.h"
+#include "praxen/core/module_folder.h"
 #include "praxen/server/registration.h"
 
 namespace praxen {

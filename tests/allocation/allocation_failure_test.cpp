@@ -8,16 +8,16 @@
 #include <optional>
 #include <utility>
 
-#include "praxen/core/library.h"
-#include "praxen/core/xml_string_writer.h"
+#include "praxen/core/counters.h"
 #include "praxen/describe/identifiers.h"
 #include "praxen/factory/reading_frame.h"
 #include "praxen/praxen.h"
 #include "praxen/server/class_object.h"
+#include "praxen/xml/xml_string_writer.h"
 #include "tests/server/client.h"
 #include "tests/support/documents.h"
+#include "tests/support/example.h"
 #include "tests/support/failing_allocator.h"
-#include "tools/generate/example.h"
 
 namespace praxen {
 namespace {
@@ -172,10 +172,10 @@ Operation Enumerating() {
 Operation LoadingForTheFirstTime() {
   ErrorOf([] { ObjectFactory::DeserializeVariable(u""); });
   return {[] {
-    const auto document = InitXMLReader();
-    return document->loadXML(u"<Variable xmlns='PraxenSchema3_0' Name='n' Type='' Attribute=''/>")
-               ? Text(document->documentElement().attribute(u"Name")->value())
-               : Text(document->parseError().reason);
+    XmlDocument document(FindSchema());
+    return document.loadXML(u"<Variable xmlns='PraxenSchema3_0' Name='n' Type='' Attribute=''/>")
+               ? Text(document.documentElement().attribute(u"Name")->value())
+               : Text(document.parseError().reason);
   }};
 }
 

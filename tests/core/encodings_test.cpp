@@ -8,9 +8,9 @@
 
 #include "praxen/core/enumerations.h"
 #include "praxen/core/error.h"
+#include "praxen/core/locale.h"
 #include "praxen/core/numbers.h"
 #include "praxen/core/text_functions.h"
-#include "praxen/platform/locale.h"
 
 namespace praxen {
 namespace {

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "praxen/core/string_builder.h"
-#include "praxen/core/xml_string_writer.h"
+#include "praxen/xml/xml_string_writer.h"
 #include "tests/support/documents.h"
 
 namespace praxen {

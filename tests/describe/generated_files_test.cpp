@@ -7,8 +7,9 @@
 #include <iterator>
 
 #include "praxen/describe/description.h"
-#include "praxen/describe/schema.h"
+#include "praxen/factory/classes.h"
 #include "tools/generate/documents.h"
+#include "tools/generate/schema.h"
 
 namespace praxen {
 namespace {
@@ -51,8 +52,7 @@ TEST(GeneratedFiles, TheTypeLibraryPublishesEverything) {
 // The schema declares what the layouts say, and nothing else.
 TEST(GeneratedFiles, TheSchemaKnowsEveryAttribute) {
   const auto elements = DeclareElements();
-  for (const auto describe : AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const ClassDescription& description : AllClasses()) {
     if (description.layout == nullptr) continue;
     const Layout& layout = description.layout();
     if (layout.container == Container::None) continue;

@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 
-#include "praxen/core/library.h"
+#include "praxen/core/counters.h"
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
 

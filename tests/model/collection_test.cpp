@@ -3,8 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "praxen/core/library.h"
+#include "praxen/core/counters.h"
 #include "praxen/praxen.h"
+#include "praxen/xml/xml_string_writer.h"
 #include "tests/support/documents.h"
 
 namespace praxen {

@@ -6,10 +6,11 @@
 #include <fstream>
 #include <iterator>
 
-#include "praxen/core/library.h"
+#include "praxen/core/counters.h"
+#include "praxen/factory/classes.h"
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
-#include "tools/generate/example.h"
+#include "tests/support/example.h"
 
 namespace praxen {
 namespace {
@@ -42,8 +43,7 @@ Text ReadAndWrite(const ClassDescription& description, const Text& document) {
 
 TEST(Documents, OfObjectsWithEverythingSet) {
   int count = 0;
-  for (const auto describe : AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const ClassDescription& description : AllClasses()) {
     if (!IsSerializable(description)) continue;
     const Ref<Object> object = description.create();
     FillExample(*object, kDepth);
@@ -60,8 +60,7 @@ TEST(Documents, OfObjectsWithEverythingSet) {
 
 TEST(Documents, OfNewObjects) {
   const int32_t before = ObjectCounter();
-  for (const auto describe : AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const ClassDescription& description : AllClasses()) {
     if (!IsSerializable(description)) continue;
     const Ref<Object> object = description.create();
     FillRequired(*object);

@@ -2,7 +2,8 @@
 // creating operations do beyond the pattern.
 #include <gtest/gtest.h>
 
-#include "praxen/core/library.h"
+#include "praxen/core/counters.h"
+#include "praxen/factory/classes.h"
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
 

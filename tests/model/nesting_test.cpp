@@ -4,12 +4,13 @@
 #include <deque>
 #include <set>
 
-#include "praxen/core/library.h"
+#include "praxen/core/counters.h"
+#include "praxen/factory/classes.h"
 #include "praxen/factory/deserialization.h"
 #include "praxen/praxen.h"
 #include "tests/server/client.h"
 #include "tests/support/documents.h"
-#include "tools/generate/example.h"
+#include "tests/support/example.h"
 
 namespace praxen {
 namespace {
@@ -58,8 +59,8 @@ Path PathToItself(const ClassDescription& start) {
 
 std::vector<const ClassDescription*> ClassesThatNest() {
   std::vector<const ClassDescription*> classes;
-  for (const auto describe : AllClasses()) {
-    if (!PathToItself(describe()).empty()) classes.push_back(&describe());
+  for (const ClassDescription& description : AllClasses()) {
+    if (!PathToItself(description).empty()) classes.push_back(&description);
   }
   return classes;
 }

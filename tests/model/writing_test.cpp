@@ -1,10 +1,10 @@
 // What the classes write: omission rules, required fields and what a failure leaves.
 #include <gtest/gtest.h>
 
-#include "praxen/core/library.h"
+#include "praxen/factory/classes.h"
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
-#include "tools/generate/example.h"
+#include "tests/support/example.h"
 
 namespace praxen {
 namespace {
@@ -26,8 +26,7 @@ TEST(Writing, ADocumentHasItsExactText) {
 // next document does not show it.
 TEST(Writing, RequiredFieldsAreCheckedBeforeAnythingIsWritten) {
   int checked = 0;
-  for (const auto describe : AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const ClassDescription& description : AllClasses()) {
     if (description.layout == nullptr) continue;
     for (const Attribute& attribute : description.layout().attributes) {
       if (attribute.rule != Rule::Required) continue;

@@ -1,5 +1,5 @@
 // What late-bound clients are told of the classes, and what they may ask.
-#include "praxen/server/class_information.h"
+#include "praxen/server/class_information_posix.h"
 
 #include <gtest/gtest.h>
 

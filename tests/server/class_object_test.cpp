@@ -1,9 +1,10 @@
 // Class objects, the classes that they create, and what keeps the library loaded.
 #include <gtest/gtest.h>
 
+#include "praxen/automation/create_object.h"
+#include "praxen/automation/guid.h"
 #include "praxen/describe/identifiers.h"
-#include "praxen/platform/class_registry.h"
-#include "praxen/platform/uuid.h"
+#include "praxen/factory/classes.h"
 #include "tests/server/client.h"
 
 #ifndef _WIN32
@@ -23,20 +24,20 @@ ComPointer<IClassFactory> FactoryOf(const ClassDescription& description) {
 
 TEST(ClassObject, EveryClassButThreeIsCreated) {
   std::vector<std::string_view> refused;
-  for (const auto describe : AllClasses()) {
-    SCOPED_TRACE(describe().name);
+  for (const ClassDescription& description : AllClasses()) {
+    SCOPED_TRACE(description.name);
     void* out = &out;
-    const HRESULT result = DllGetClassObject(ClassId(describe()), IID_IUnknown, &out);
+    const HRESULT result = DllGetClassObject(ClassId(description), IID_IUnknown, &out);
     if (result == CLASS_E_CLASSNOTAVAILABLE) {
       EXPECT_EQ(out, nullptr);
-      refused.push_back(describe().name);
+      refused.push_back(description.name);
       continue;
     }
     ASSERT_EQ(result, S_OK);
     static_cast<IUnknown*>(out)->Release();
     ComPointer<IDispatch> object;
-    EXPECT_EQ(FactoryOf(describe())
-                  ->CreateInstance(nullptr, InterfaceId(describe()),
+    EXPECT_EQ(FactoryOf(description)
+                  ->CreateInstance(nullptr, InterfaceId(description),
                                    reinterpret_cast<void**>(object.Receive())),
               S_OK);
     EXPECT_TRUE(object);
@@ -47,7 +48,7 @@ TEST(ClassObject, EveryClassButThreeIsCreated) {
 
 TEST(ClassObject, BadRequestsAreRefused) {
   void* out = &out;
-  const GUID unknown = NameUuid(GUID_NULL, "unknown");
+  const GUID unknown = ToGuid(NameUuid({}, "unknown"));
   const ClassDescription& variable = *FindClass(u"Variable");
   EXPECT_EQ(DllGetClassObject(unknown, IID_IClassFactory, &out), CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(out, nullptr);

@@ -7,6 +7,7 @@
 
 #include "praxen/core/text.h"
 #include "praxen/describe/identifiers.h"
+#include "praxen/factory/classes.h"
 #include "praxen/server/class_object.h"
 
 namespace praxen::client {

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "praxen/platform/automation_values.h"
+#include "praxen/automation/values.h"
 
 namespace praxen::client {
 

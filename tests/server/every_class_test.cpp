@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "praxen/core/text.h"
+#include "praxen/factory/classes.h"
 #include "praxen/server/registration.h"
 #include "tests/server/client.h"
 
@@ -83,12 +84,12 @@ TEST(EveryClass, KeepsEveryPropertyAndLeavesNothingBehind) {
 }
 
 TEST(EveryClass, HasEachOfItsNamesAndIdentifiersOnce) {
-  for (const auto describe : AllClasses()) {
-    SCOPED_TRACE(describe().name);
-    for (const Member& member : describe().members) {
+  for (const ClassDescription& description : AllClasses()) {
+    SCOPED_TRACE(description.name);
+    for (const Member& member : description.members) {
       std::u16string name = FromUtf8(member.name);
-      EXPECT_EQ(describe().FindMember(name), &member);
-      EXPECT_EQ(describe().FindMember(member.id), &member);
+      EXPECT_EQ(description.FindMember(name), &member);
+      EXPECT_EQ(description.FindMember(member.id), &member);
       EXPECT_FALSE(member.help.empty()) << member.name;
       for (const auto& parameter : member.parameters) EXPECT_FALSE(parameter.name.empty());
     }

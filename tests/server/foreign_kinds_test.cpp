@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "praxen/describe/identifiers.h"
+#include "praxen/factory/classes.h"
 #include "tests/server/client.h"
 
 namespace praxen::client {

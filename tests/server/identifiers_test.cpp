@@ -5,24 +5,24 @@
 #include <set>
 #include <sstream>
 
+#include "praxen/automation/guid.h"
 #include "praxen/describe/identifiers.h"
-#include "praxen/describe/type_library.h"
-#include "praxen/platform/uuid.h"
+#include "praxen/factory/classes.h"
 
 namespace praxen {
 namespace {
 
 std::string PublishedIdentifiers() {
   std::ostringstream list;
-  list << "library PraxenHelper " << UuidToText(TypeLibraryId()) << "\n";
+  list << "library PraxenHelper " << GuidToText(TypeLibraryId()) << "\n";
   for (const EnumerationDescription* const enumeration : AllEnumerations()) {
-    list << "enumeration " << enumeration->name << " " << UuidToText(EnumerationId(*enumeration))
+    list << "enumeration " << enumeration->name << " " << GuidToText(EnumerationId(*enumeration))
          << "\n";
   }
-  for (const auto describe : AllClasses()) {
-    list << "class " << describe().name << " " << UuidToText(ClassId(describe())) << "\n"
-         << "interface " << InterfaceName(describe()) << " " << UuidToText(InterfaceId(describe()))
-         << "\n";
+  for (const ClassDescription& description : AllClasses()) {
+    list << "class " << description.name << " " << GuidToText(ClassId(description)) << "\n"
+         << "interface " << InterfaceName(description) << " "
+         << GuidToText(InterfaceId(description)) << "\n";
   }
   return list.str();
 }
@@ -45,9 +45,9 @@ TEST(Identifiers, AreUnique) {
 }
 
 TEST(Identifiers, LeadBackToTheirClasses) {
-  for (const auto describe : AllClasses()) {
-    EXPECT_EQ(FindClassById(ClassId(describe())), &describe());
-    EXPECT_EQ(FindClassById(InterfaceId(describe())), nullptr);
+  for (const ClassDescription& description : AllClasses()) {
+    EXPECT_EQ(FindClassById(description.classId), &description);
+    EXPECT_EQ(FindClassById(description.interfaceId), nullptr);
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "praxen/core/text.h"
 #include "praxen/describe/identifiers.h"
+#include "praxen/factory/classes.h"
 #include "tests/server/client.h"
 
 namespace praxen::client {

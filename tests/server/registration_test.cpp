@@ -6,10 +6,11 @@
 #include <algorithm>
 #include <set>
 
+#include "praxen/automation/guid.h"
 #include "praxen/core/text.h"
 #include "praxen/describe/identifiers.h"
-#include "praxen/platform/uuid.h"
-#include "praxen/server/manifest.h"
+#include "praxen/factory/classes.h"
+#include "tools/generate/manifest.h"
 
 namespace praxen {
 namespace {
@@ -35,9 +36,9 @@ TEST(Registration, EveryValueGoesWithItsKey) {
 }
 
 TEST(Registration, NamesServerProxyAndTypeLibrary) {
-  const std::string variable = "CLSID\\" + UuidToText(ClassId(*FindClass(u"Variable")));
-  const std::string message = "Interface\\" + UuidToText(InterfaceId(*FindClass(u"IMsg")));
-  const std::u16string library = FromUtf8(UuidToText(TypeLibraryId()));
+  const std::string variable = "CLSID\\" + GuidToText(ClassId(*FindClass(u"Variable")));
+  const std::string message = "Interface\\" + GuidToText(InterfaceId(*FindClass(u"IMsg")));
+  const std::u16string library = FromUtf8(GuidToText(TypeLibraryId()));
   const RegistryValue expected[] = {
       {"PraxenHelper.Variable\\CLSID", "", FromUtf8(variable.substr(6))},
       {variable + "\\InprocServer32", "", u"C:\\Folder\\PraxenHelper.dll"},
@@ -59,7 +60,7 @@ TEST(Registration, NamesServerProxyAndTypeLibrary) {
     ASSERT_NE(found, values.end()) << one.key << " " << one.name;
     EXPECT_TRUE(found->value == one.value) << one.key << " " << one.name;
   }
-  const std::string kind = "CLSID\\" + UuidToText(ClassId(*FindClass(u"IMsg")));
+  const std::string kind = "CLSID\\" + GuidToText(ClassId(*FindClass(u"IMsg")));
   EXPECT_TRUE(std::ranges::none_of(
       values, [&](const RegistryValue& value) { return value.key.starts_with(kind); }));
 }
@@ -69,7 +70,7 @@ TEST(Registration, TheManifestNamesTheSame) {
   EXPECT_EQ(Count(manifest, "<comClass "), CreatableClasses().size());
   EXPECT_EQ(Count(manifest, "<comInterfaceExternalProxyStub "), AllClasses().size());
   EXPECT_EQ(Count(manifest, "progid=\"PraxenHelper.ObjectFactory\""), 1u);
-  EXPECT_EQ(Count(manifest, "clsid=\"" + UuidToText(ClassId(*FindClass(u"IMsg"))) + "\""), 0u);
+  EXPECT_EQ(Count(manifest, "clsid=\"" + GuidToText(ClassId(*FindClass(u"IMsg"))) + "\""), 0u);
 }
 
 }  // namespace

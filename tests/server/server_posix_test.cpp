@@ -5,7 +5,8 @@
 
 #include <filesystem>
 
-#include "praxen/platform/class_registry.h"
+#include "praxen/automation/class_registry_posix.h"
+#include "praxen/automation/create_object.h"
 #include "tests/server/client.h"
 
 STDAPI DllRegisterServer();

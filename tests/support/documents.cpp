@@ -3,10 +3,10 @@
 #include <cstdio>
 
 #include "praxen/core/error.h"
-#include "praxen/core/library.h"
-#include "praxen/core/xml_string_writer.h"
 #include "praxen/describe/description.h"
+#include "praxen/factory/classes.h"
 #include "praxen/factory/deserialization.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
 
@@ -18,8 +18,7 @@ constexpr std::string_view kNamespace = " xmlns='PraxenSchema3_0'";
 size_t EndOfName(std::string_view markup) { return markup.find_first_of(" />", 1); }
 
 const ClassDescription& ClassOf(std::u16string_view element) {
-  for (const auto describe : AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const ClassDescription& description : AllClasses()) {
     if (description.layout != nullptr && description.layout().element == element) {
       return description;
     }

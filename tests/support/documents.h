@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "praxen/core/object.h"
+#include "praxen/describe/object.h"
 
 namespace praxen {
 

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "praxen/describe/schema.h"
+#include "tools/generate/schema.h"
 
 namespace praxen {
 

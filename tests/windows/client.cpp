@@ -10,7 +10,7 @@
 #include <cstdio>
 #include <string>
 
-#include "praxen/platform/automation_values.h"
+#include "praxen/automation/values.h"
 
 namespace {
 

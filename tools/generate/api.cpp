@@ -1,9 +1,10 @@
 // The reference of the published classes.
 #include <algorithm>
 
+#include "praxen/automation/values.h"
 #include "praxen/core/enumerations.h"
 #include "praxen/describe/description.h"
-#include "praxen/platform/automation_values.h"
+#include "praxen/factory/classes.h"
 #include "tools/generate/documents.h"
 
 namespace praxen {
@@ -140,7 +141,7 @@ std::string ApiDocument() {
       "members of `ObjectFactory` and of the lists set the properties named by their "
       "parameters.\n\n"
       "## Classes\n";
-  for (const auto describe : AllClasses()) text += Section(describe());
+  for (const ClassDescription& description : AllClasses()) text += Section(description);
   text += "\n## Enumerations\n";
   for (const EnumerationDescription* const enumeration : AllEnumerations()) {
     text += EnumerationSection(*enumeration);

@@ -1,9 +1,9 @@
 // The list of generated files.
 #include "tools/generate/documents.h"
 
-#include "praxen/describe/schema.h"
-#include "praxen/describe/type_library.h"
-#include "praxen/server/manifest.h"
+#include "tools/generate/manifest.h"
+#include "tools/generate/schema.h"
+#include "tools/generate/type_library.h"
 
 namespace praxen {
 

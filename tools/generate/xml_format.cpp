@@ -3,9 +3,10 @@
 #include <map>
 
 #include "praxen/describe/description.h"
-#include "praxen/describe/schema.h"
+#include "praxen/factory/classes.h"
+#include "tests/support/example.h"
 #include "tools/generate/documents.h"
-#include "tools/generate/example.h"
+#include "tools/generate/schema.h"
 
 namespace praxen {
 
@@ -150,8 +151,7 @@ std::string XmlFormatDocument() {
       "error 605. An attribute without a default must be there when a document is read. In the\n"
       "examples every property is set.\n\n## Elements\n";
   std::multimap<std::u16string, const ClassDescription*> sections;
-  for (const auto describe : AllClasses()) {
-    const ClassDescription& description = describe();
+  for (const ClassDescription& description : AllClasses()) {
     if (description.layout == nullptr) continue;
     if (description.layout().container == Container::None) continue;
     sections.emplace(description.layout().element, &description);

@@ -26,7 +26,7 @@ bool KeepsItsText(const std::string& file, const Text& written) {
   if (again == written) return true;
   const auto [difference, other] = std::ranges::mismatch(written.view(), again.view());
   const auto offset = static_cast<size_t>(difference - written.view().begin());
-  const Place place = XmlPositionAt(written, offset);
+  const Place place = PlaceAt(written, offset);
   PrintError(file, "what was written of it changes when it is read and written again");
   std::cerr << SourceLines(written, place) << std::flush;
   return false;

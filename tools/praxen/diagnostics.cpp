@@ -36,7 +36,7 @@ std::string Indentation(std::u16string_view characters) {
 // The description without the place that a reason of the parser ends with.
 std::u16string WithoutPlace(const Error& error) {
   std::u16string description(error.description());
-  const std::u16string place = MakeXmlError(u"", error.place()).reason;
+  const std::u16string place = u" (" + PlaceText(error.place()) + u")";
   if (description.ends_with(place)) description.resize(description.size() - place.size());
   return description;
 }
@@ -44,7 +44,7 @@ std::u16string WithoutPlace(const Error& error) {
 }  // namespace
 
 std::string SourceLines(std::u16string_view text, Place place) {
-  const size_t start = XmlOffsetAt(text, {place.line, 1});
+  const size_t start = OffsetAt(text, {place.line, 1});
   const size_t end = std::min(text.find_first_of(u"\r\n", start), text.size());
   const std::u16string_view line = text.substr(start, end - start);
   const size_t column =

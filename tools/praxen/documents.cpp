@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "praxen/core/error.h"
+#include "praxen/factory/classes.h"
 #include "praxen/factory/object_factory.h"
 #include "praxen/factory/reading_frame.h"
 #include "tools/praxen/diagnostics.h"
@@ -23,8 +24,8 @@ void AppendResults(std::vector<const ClassDescription*>& classes, const ClassDes
     classes.push_back(&result);
     return;
   }
-  for (const auto describe : AllClasses()) {
-    if (describe().kind == &result) classes.push_back(&describe());
+  for (const ClassDescription& description : AllClasses()) {
+    if (description.kind == &result) classes.push_back(&description);
   }
 }
 
@@ -62,7 +63,7 @@ const ClassDescription& ClassOf(const XmlNode& root) {
   for (const ClassDescription* const candidate : DocumentClasses()) {
     if (candidate->layout().element == root.nodeName()) candidates.push_back(candidate);
   }
-  if (candidates.empty()) throw WrongRootElement().At(root.position());
+  if (candidates.empty()) throw WrongRootElement().At(root.place());
   if (candidates.size() == 1) return *candidates.front();
   return **std::ranges::min_element(candidates, {}, [&](const ClassDescription* candidate) {
     return CountUnknown(candidate->layout(), root);
@@ -75,7 +76,7 @@ DecodedText ReadFile(const std::string& file, Progress& progress) {
 
 bool IsEncoded(const std::string& file, const DecodedText& decoded) {
   if (!decoded.malformed) return true;
-  const Place place = XmlPositionAt(decoded.text, *decoded.malformed);
+  const Place place = PlaceAt(decoded.text, *decoded.malformed);
   PrintError(file, InvalidXml(u"The bytes are neither UTF-8 nor UTF-16.", place), decoded.text);
   return false;
 }

@@ -1,6 +1,6 @@
 #include "tools/praxen/object_tree.h"
 
-#include "praxen/platform/automation_values.h"
+#include "praxen/automation/values.h"
 
 namespace praxen {
 

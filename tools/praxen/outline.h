@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <ostream>
 
-#include "praxen/core/object.h"
+#include "praxen/describe/object.h"
 #include "tools/praxen/terminal.h"
 
 namespace praxen {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "praxen/platform/automation.h"
-#include "praxen/platform/module_folder.h"
+#include "praxen/automation/automation.h"
+#include "praxen/core/module_folder.h"
 #include "tools/praxen/diagnostics.h"
 
 #ifndef _WIN32

@@ -5,8 +5,8 @@
 
 #include "praxen/core/error.h"
 #include "praxen/core/text_functions.h"
-#include "praxen/core/xml_string_writer.h"
 #include "praxen/describe/xml_reading.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
 
@@ -17,7 +17,7 @@ constexpr std::u16string_view kGroup = u"ProjectConstants";
 
 Error MissingContent(const XmlNode& node) {
   return MissingObject(u"The content of \""_text + node.nodeName() + u"\" is missing")
-      .At(PlaceOf(node));
+      .At(node.place());
 }
 
 std::u16string_view RequiredText(const XmlNode& node) {
@@ -155,7 +155,7 @@ void intProjectConstants::ReadLevel(XmlNode node, ProjectConstants& list, const 
   for (; node; node = node.nextSibling()) {
     const Text name = path + RequiredAttribute(node, u"Name");
     name_characters_ += name.size();
-    if (name_characters_ > kMostNameCharacters) throw Overflow().At(PlaceOf(node));
+    if (name_characters_ > kMostNameCharacters) throw Overflow().At(node.place());
     const XmlNode child = node.firstChild();
     if (child.nodeName() == kGroup) {
       ReadLevel(child.firstChild(), list, name);

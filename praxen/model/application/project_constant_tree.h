@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
-#include "praxen/core/library.h"
+#include "praxen/core/counters.h"
 #include "praxen/model/application/project_constant.h"
-#include "praxen/platform/xml_document.h"
+#include "praxen/xml/xml_document.h"
 
 namespace praxen {
 
@@ -76,7 +76,7 @@ class intProjectConstants {
 
   /// Writes the elements of the top level; nothing for an empty list. Of several constants of one
   /// name only the first is written, and of one whose name is also a group only the group. Raises
-  /// `NestedTooDeep` beyond `kDeepestNesting` elements. The list does not change meanwhile.
+  /// `NestedTooDeep` beyond `kMaxXmlDepth` elements. The list does not change meanwhile.
   void Write(XMLStringWriter& writer, const ProjectConstants& list);
   /// Appends the constants of the elements from `first` on, depth first. Raises `Overflow` when
   /// their dotted names have more than `kMostNameCharacters` characters together.

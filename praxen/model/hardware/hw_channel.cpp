@@ -1,9 +1,9 @@
 // The connected variable of a channel, whose element also tells whether it is a signal.
 #include "praxen/model/hardware/hw_channel.h"
 
-#include "praxen/core/xml_string_writer.h"
 #include "praxen/describe/define.h"
 #include "praxen/describe/xml_reading.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
 

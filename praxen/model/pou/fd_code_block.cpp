@@ -1,9 +1,9 @@
 // The diagram of an FDCodeBlock as markup.
 #include "praxen/model/pou/fd_code_block.h"
 
-#include "praxen/core/xml_string_writer.h"
 #include "praxen/describe/define.h"
-#include "praxen/platform/xml_document.h"
+#include "praxen/xml/xml_document.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
 

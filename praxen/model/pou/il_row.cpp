@@ -1,9 +1,9 @@
 // The two forms of a row of an instruction list in XML.
 #include "praxen/model/pou/il_row.h"
 
-#include "praxen/core/xml_string_writer.h"
 #include "praxen/describe/define.h"
 #include "praxen/describe/xml_reading.h"
+#include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
 

@@ -1,0 +1,25 @@
+// The user's locale, as far as numbers in documents depend on it.
+#ifndef PRAXEN_CORE_LOCALE_H_
+#define PRAXEN_CORE_LOCALE_H_
+
+#include <string>
+
+namespace praxen {
+
+/// The decimal separator of the user's default locale, at most four UTF-16 units; empty when the
+/// system does not report one. Follows changes of the locale and never changes the program's own.
+std::u16string GetDecimalSeparator();
+
+/// The same as the system reports it.
+std::u16string SystemDecimalSeparator();
+
+/// Reports a decimal separator.
+using DecimalSeparatorQuery = std::u16string (*)();
+
+/// Lets `query` answer in place of the system, and the system again for null; returns what answered
+/// before. For tests.
+DecimalSeparatorQuery SetDecimalSeparatorQuery(DecimalSeparatorQuery query);
+
+}  // namespace praxen
+
+#endif  // PRAXEN_CORE_LOCALE_H_

@@ -1,0 +1,35 @@
+// Limits of the documents that are read: beyond them a document is refused before it is parsed.
+#ifndef PRAXEN_XML_XML_LIMITS_H_
+#define PRAXEN_XML_XML_LIMITS_H_
+
+#include <cstddef>
+#include <cstdint>
+
+namespace praxen {
+
+/// How deep elements may be nested; the root element has depth 1.
+inline constexpr uint32_t kMaxXmlDepth = 1'000;
+
+/// How many attributes one start tag may have, namespace declarations included.
+inline constexpr uint32_t kMaxXmlAttributes = 1'000;
+
+/// How many namespace declarations may be in scope at once. A prefix is looked up among them one
+/// after the other.
+inline constexpr uint32_t kMaxXmlNamespacesInScope = 1'000;
+
+/// How many different names that the schema does not declare, prefixes included, and how many
+/// different namespaces a document may use.
+inline constexpr size_t kMaxXmlForeignNames = 2'000;
+
+/// The length of a name of an element, attribute or processing instruction in UTF-16 units.
+inline constexpr size_t kMaxXmlNameLength = 100'000;
+
+/// The length of an attribute value, as written, in UTF-16 units.
+inline constexpr size_t kMaxXmlAttributeLength = 10'000'000;
+
+/// The length of a document in UTF-16 units.
+inline constexpr size_t kMaxXmlDocumentLength = 500'000'000;
+
+}  // namespace praxen
+
+#endif  // PRAXEN_XML_XML_LIMITS_H_

@@ -1,0 +1,66 @@
+// XMLStringWriter, the forward-only writer through which every object serializes.
+#ifndef PRAXEN_XML_XML_STRING_WRITER_H_
+#define PRAXEN_XML_XML_STRING_WRITER_H_
+
+#include <cstdint>
+#include <string_view>
+
+#include "praxen/core/string_builder.h"
+#include "praxen/core/text.h"
+
+namespace praxen {
+
+/// Writes a document into a text buffer, without indentation and without checks of names or
+/// nesting order.
+///
+/// Attribute values stand between apostrophes. Line breaks are CR LF, and are left out while
+/// `IncludeCRLFInXML` is false. The writer counts as one live object.
+class XMLStringWriter {
+ public:
+  XMLStringWriter();
+  ~XMLStringWriter();
+  XMLStringWriter(const XMLStringWriter&) = delete;
+  XMLStringWriter& operator=(const XMLStringWriter&) = delete;
+
+  /// Empties the buffer and writes the declaration.
+  void WriteStartDocument();
+  /// Starts the root element, with the namespace of the exchange format.
+  void WriteStartRootElement(std::u16string_view name);
+  /// Starts an element; raises `NestedTooDeep` beyond `kMaxXmlDepth` open elements.
+  void WriteStartElement(std::u16string_view name);
+  void WriteEndElement(std::u16string_view name);
+  /// Writes an attribute of the element just started.
+  void WriteAttributeString(std::u16string_view name, std::u16string_view value);
+  /// Writes an element that holds only text; an empty text gives a start and an end tag. Raises
+  /// `NestedTooDeep` as `WriteStartElement` does.
+  void WriteElementString(std::u16string_view name, std::u16string_view value);
+  /// Writes the text content of the element just started.
+  void WriteElementValue(std::u16string_view value);
+  /// Writes content that is markup already.
+  void WriteXMLElementValue(std::u16string_view markup);
+  /// The document so far.
+  Text ToXMLString() { return buffer_.ToString(); }
+
+ private:
+  char16_t* CloseStartTag(char16_t* end) const;
+  void StartContent();
+  void OpenElement();
+  template <bool Attribute>
+  void WriteEscaped(std::u16string_view value);
+
+  CStringBuilder buffer_;
+  bool start_tag_open_ = false;
+  bool element_empty_ = false;
+  uint32_t depth_ = 0;
+};
+
+/// The writer through which every `Serialize` writes.
+XMLStringWriter& SharedWriter();
+
+/// Whether documents are written with CR LF line breaks; true after start-up.
+bool IncludeCRLFInXML() noexcept;
+void SetIncludeCRLFInXML(bool include) noexcept;
+
+}  // namespace praxen
+
+#endif  // PRAXEN_XML_XML_STRING_WRITER_H_

@@ -1,0 +1,213 @@
+// Nodes of a tree as markup, and their places in the source.
+#include <algorithm>
+#include <utility>
+
+#include "praxen/core/numbers.h"
+#include "praxen/xml/xml_markup.h"
+#include "praxen/xml/xml_tree.h"
+
+namespace praxen {
+namespace {
+
+void AppendEscaped(std::u16string& out, std::u16string_view text, std::u16string_view special) {
+  for (const char16_t c : text) {
+    if (special.find(c) == std::u16string_view::npos) {
+      out += c;
+    } else {
+      out += u"&#" + DecimalText(c) + u";";
+    }
+  }
+}
+
+std::u16string EscapedText(std::u16string_view text) {
+  std::u16string out;
+  for (const char16_t c : text) {
+    switch (c) {
+      case u'&':
+        out += u"&amp;";
+        break;
+      case u'<':
+        out += u"&lt;";
+        break;
+      case u'>':
+        out += u"&gt;";
+        break;
+      case u'\r':
+        out += u"&#13;";
+        break;
+      default:
+        out += c;
+    }
+  }
+  return out;
+}
+
+// A namespace declaration with a blank before it.
+std::u16string Declaration(std::u16string_view name, std::u16string_view value) {
+  std::u16string out = u" ";
+  out.append(name).append(u"='");
+  AppendEscaped(out, value, u"&<'\t\n\r");
+  return out += u'\'';
+}
+
+std::u16string_view Prefix(std::u16string_view name) {
+  const size_t colon = name.find(u':');
+  return colon == std::u16string_view::npos ? std::u16string_view() : name.substr(0, colon);
+}
+
+// Collects the prefixes that a run of elements in document order uses but does not declare.
+class PrefixCollector {
+ public:
+  void addElement(size_t begin, size_t end, std::u16string_view name,
+                  std::span<const XmlAttribute> attributes) {
+    while (!declared_.empty() && declared_.back().end <= begin) declared_.pop_back();
+    for (const XmlAttribute& attribute : attributes) {
+      if (attribute.specified && attribute.name->starts_with(kDeclares)) {
+        declared_.push_back({std::u16string_view(*attribute.name).substr(kDeclares.size()), end});
+      }
+    }
+    use(Prefix(name));
+    for (const XmlAttribute& attribute : attributes) {
+      if (attribute.specified) use(Prefix(*attribute.name));
+    }
+  }
+
+  std::vector<std::u16string_view> take() { return std::move(undeclared_); }
+
+ private:
+  static constexpr std::u16string_view kDeclares = u"xmlns:";
+
+  struct Declared {
+    std::u16string_view prefix;
+    size_t end;  // Of the element that declares it.
+  };
+
+  void use(std::u16string_view prefix) {
+    if (prefix.empty() || prefix == u"xml" || prefix == u"xmlns") return;
+    const auto declares = [&](const Declared& declared) { return declared.prefix == prefix; };
+    if (std::any_of(declared_.rbegin(), declared_.rend(), declares)) return;
+    if (std::find(undeclared_.begin(), undeclared_.end(), prefix) != undeclared_.end()) return;
+    undeclared_.push_back(prefix);
+  }
+
+  std::vector<Declared> declared_;
+  std::vector<std::u16string_view> undeclared_;
+};
+
+const XmlAttribute* Find(std::span<const XmlAttribute> attributes, std::u16string_view name) {
+  for (const XmlAttribute& attribute : attributes) {
+    if (*attribute.name == name) return &attribute;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::u16string XmlTree::markup(uint32_t node) const {
+  const XmlRecord& found = record(node);
+  switch (static_cast<XmlNodeKind>(found.kind)) {
+    case XmlNodeKind::kText:
+      return EscapedText(text(node));
+    case XmlNodeKind::kComment:
+      return std::u16string(u"<!--").append(text(node)).append(u"-->");
+    case XmlNodeKind::kInstruction: {
+      std::u16string instruction = u"<?" + *found.name;
+      if (found.count != 0) instruction.append(u" ").append(text(node));
+      return instruction.append(u"?>");
+    }
+    default:
+      break;
+  }
+  const Extent& extent = extents()[node];
+  std::u16string slice(source_.substr(extent.begin, extent.end - extent.begin));
+  return slice.insert(1 + found.name->size(), missingDeclarations(node));
+}
+
+Place XmlTree::place(uint32_t node) const { return PlaceAt(source_, extents()[node].begin); }
+
+// Nodes are numbered in document order, so that one walk over the source meets them in turn. The
+// dropped blanks are told from text nodes by whose child the next node is.
+const std::vector<XmlTree::Extent>& XmlTree::extents() const {
+  if (!extents_.empty()) return extents_;
+  extents_.reserve(size_);
+  std::vector<Open> open;
+  const auto isNext = [&](XmlNodeKind kind) {
+    const auto next = static_cast<uint32_t>(extents_.size());
+    if (next == size_ || record(next).kind != static_cast<uint32_t>(kind)) return false;
+    if (open.empty()) return kind == XmlNodeKind::kElement;
+    const Open& parent = open.back();
+    if (parent.lastChild == kNone) return firstChild(parent.element) == next;
+    return record(parent.lastChild).next == next;
+  };
+  const auto add = [&](const XmlMarkup& markup) {
+    const auto node = static_cast<uint32_t>(extents_.size());
+    extents_.push_back({static_cast<uint32_t>(markup.begin), static_cast<uint32_t>(markup.end),
+                        open.empty() ? kNone : open.back().element});
+    if (!open.empty()) open.back().lastChild = node;
+    return node;
+  };
+  for (XmlMarkupReader reader(source_); reader.next();) {
+    const XmlMarkup& markup = reader.markup();
+    switch (markup.kind) {
+      case XmlMarkupKind::kText:
+      case XmlMarkupKind::kCData:
+        if (isNext(XmlNodeKind::kText)) add(markup);
+        break;
+      case XmlMarkupKind::kComment:
+        if (isNext(XmlNodeKind::kComment)) add(markup);
+        break;
+      case XmlMarkupKind::kInstruction:
+        if (isNext(XmlNodeKind::kInstruction)) add(markup);
+        break;
+      case XmlMarkupKind::kStartTag:
+        open.push_back({add(markup), kNone});
+        break;
+      case XmlMarkupKind::kEmptyTag:
+        add(markup);
+        break;
+      case XmlMarkupKind::kEndTag:
+        extents_[open.back().element].end = static_cast<uint32_t>(markup.end);
+        open.pop_back();
+        break;
+      default:
+        break;
+    }
+  }
+  return extents_;
+}
+
+std::u16string XmlTree::missingDeclarations(uint32_t element) const {
+  std::u16string declarations;
+  for (const std::u16string_view prefix : undeclaredPrefixes(element)) {
+    const std::u16string name = std::u16string(u"xmlns:").append(prefix);
+    declarations += Declaration(name, outerNamespace(element, name));
+  }
+  if (Find(attributes(element), u"xmlns") != nullptr) return declarations;
+  const std::u16string_view standard = outerNamespace(element, u"xmlns");
+  if (standard != targetNamespace_) declarations += Declaration(u"xmlns", standard);
+  return declarations;
+}
+
+std::vector<std::u16string_view> XmlTree::undeclaredPrefixes(uint32_t element) const {
+  const std::vector<Extent>& places = extents();
+  PrefixCollector prefixes;
+  const size_t end = places[element].end;
+  for (uint32_t node = element; node < size_ && places[node].begin < end; ++node) {
+    const XmlRecord& found = record(node);
+    if (found.kind != static_cast<uint32_t>(XmlNodeKind::kElement)) continue;
+    prefixes.addElement(places[node].begin, places[node].end, *found.name, attributes(node));
+  }
+  return prefixes.take();
+}
+
+std::u16string_view XmlTree::outerNamespace(uint32_t element,
+                                            std::u16string_view declaration) const {
+  const std::vector<Extent>& places = extents();
+  for (uint32_t node = places[element].parent; node != kNone; node = places[node].parent) {
+    const XmlAttribute* const found = Find(attributes(node), declaration);
+    if (found != nullptr) return found->value();
+  }
+  return {};
+}
+
+}  // namespace praxen

@@ -1,0 +1,565 @@
+// Tests of the XML document: trees, reasons, markup, and what hostile texts meet.
+#include "praxen/xml/xml_document.h"
+#include "praxen/core/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "praxen/xml/xml_limits.h"
+
+namespace praxen {
+namespace {
+
+constexpr char kSchema[] = R"(<?xml version="1.0" encoding="UTF-8"?>
+<xs:schema xmlns:xs="http://www.w3.org/2001/XMLSchema" xmlns="urn:test"
+           targetNamespace="urn:test" elementFormDefault="qualified">
+  <xs:element name="List">
+    <xs:complexType>
+      <xs:sequence>
+        <xs:any namespace="##any" processContents="lax" minOccurs="0" maxOccurs="unbounded"/>
+      </xs:sequence>
+      <xs:attribute name="Name" type="xs:string" use="required"/>
+      <xs:attribute name="Scope" type="xs:string" default="private"/>
+      <xs:attribute name="Hidden" type="xs:string" default="0"/>
+    </xs:complexType>
+  </xs:element>
+  <xs:element name="Value" type="xs:string"/>
+  <xs:element name="Limits">
+    <xs:complexType>
+      <xs:sequence><xs:element ref="Value"/></xs:sequence>
+      <xs:attribute name="High" type="xs:int"/>
+      <xs:attribute name="Unit">
+        <xs:simpleType>
+          <xs:restriction base="xs:string">
+            <xs:enumeration value="mm"/><xs:enumeration value="km"/>
+          </xs:restriction>
+        </xs:simpleType>
+      </xs:attribute>
+    </xs:complexType>
+  </xs:element>
+</xs:schema>)";
+
+XmlSchemaSource TestSchema() { return {u"urn:test", kSchema, "test.xsd"}; }
+
+std::string Narrow(std::u16string_view text) {
+  std::string out;
+  for (const char16_t c : text) {
+    out += c < 0x80 ? std::string(1, static_cast<char>(c)) : "{" + std::to_string(c) + "}";
+  }
+  return out;
+}
+
+std::u16string Repeated(std::u16string_view text, size_t count) {
+  std::u16string out;
+  out.reserve(text.size() * count);
+  for (size_t i = 0; i < count; ++i) out += text;
+  return out;
+}
+
+// A node and all below it: "Name(a='specified' b~'default')[children]", "'text'", "!comment",
+// "?target data".
+std::string Outline(const XmlNode& node) {
+  const std::string name = Narrow(node.nodeName());
+  const std::string value = Narrow(node.nodeValue());
+  if (name == "#text") return "'" + value + "'";
+  if (name == "#comment") return "!" + value;
+  std::string out = name;
+  if (!value.empty()) return "?" + name + " " + value;
+  std::string separator = "(";
+  for (const XmlAttribute& attribute : node.attributes()) {
+    out += separator + Narrow(*attribute.name) + (attribute.specified ? "='" : "~'") +
+           Narrow(attribute.value()) + "'";
+    separator = " ";
+  }
+  if (separator == " ") out += ")";
+  separator = "[";
+  for (XmlNode child = node.firstChild(); child; child = child.nextSibling()) {
+    out += separator + Outline(child);
+    separator = " ";
+  }
+  return separator == " " ? out + "]" : out;
+}
+
+constexpr std::u16string_view kGood = u"<List xmlns='urn:test' Name='x'/>";
+
+// Every document of a table is loaded into the same document, good ones between bad ones.
+XmlDocument& Shared() {
+  static XmlDocument document(TestSchema);
+  return document;
+}
+
+std::string Load(std::u16string_view text) {
+  XmlDocument& document = Shared();
+  if (document.loadXML(text)) return Outline(document.documentElement());
+  EXPECT_FALSE(document.documentElement());
+  const std::string reason = Narrow(document.parseError().reason);
+  EXPECT_TRUE(document.loadXML(kGood)) << "after: " << reason;
+  return reason;
+}
+
+struct Case {
+  std::u16string text;
+  std::string expected;
+};
+
+void PrintTo(const Case& c, std::ostream* out) { *out << Narrow(c.text.substr(0, 80)); }
+
+class Loading : public testing::TestWithParam<Case> {};
+
+TEST_P(Loading, GivesTreeOrReason) { EXPECT_EQ(Load(GetParam().text), GetParam().expected); }
+
+// The root element of most cases, to whose outline every test of content is equal but for that.
+Case Holding(std::u16string_view content, std::string outline) {
+  std::u16string text = u"<List xmlns='urn:test' Name='x'>";
+  if (!outline.empty()) outline = "[" + outline + "]";
+  return {text.append(content).append(u"</List>"),
+          "List(xmlns='urn:test' Name='x' Scope~'private' Hidden~'0')" + outline};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Trees, Loading,
+    testing::Values(
+        Holding(u"", ""), Holding(u"\n  \t", ""),
+        Case{u"\uFEFF<List xmlns='urn:test' Hidden='1' Name='&lt;&#x41;\n'/>",
+             "List(xmlns='urn:test' Hidden='1' Name='<A ' Scope~'private')"},
+        Case{u"<?xml version='1.0' encoding='Shift_JIS'?><!-- <!DOCTYPE x> --><?p?>\n"
+             u"<Value xmlns='urn:test'>\xE4</Value><!-- end -->\n",
+             "Value(xmlns='urn:test')['{228}']"},
+        Holding(u"\n <Value> </Value>\n <Value>\r\n a\rb </Value>\n",
+                "Value[' '] Value['\n a\nb ']"),
+        Holding(u"<Value>a&amp;<![CDATA[<b>]]>c</Value>", "Value['a&<b>c']"),
+        Holding(u" <!-- note --> <?pi  data ?> <Value/> ",
+                "!"
+                " note  ?pi data  Value"),
+        Holding(u"<Other a='1'> <B/> tail <C/> </Other>", "Other(a='1')[B ' tail ' C]"),
+        Holding(u"<o:X xmlns:o='urn:o' o:a='&quot;'><Value/></o:X>",
+                "o:X(xmlns:o='urn:o' o:a='\"')[Value]"),
+        Holding(u"<List Name='1'/><List Hidden='1' Name='2' Scope='s'/><List Name='3'/>",
+                "List(Name='1' Scope~'private' Hidden~'0') "
+                "List(Hidden='1' Name='2' Scope='s') "
+                "List(Name='3' Scope~'private' Hidden~'0')"),
+        Case{u"<List Name='x'><Nowhere b='c'/></List>", "List(Name='x')[Nowhere(b='c')]"},
+        Case{u"<p:Odd xmlns:p='urn:odd'> </p:Odd>", "p:Odd(xmlns:p='urn:odd')[' ']"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Invalid, Loading,
+    testing::Values(
+        Case{u"<List\n xmlns='urn:test'/>",
+             "Element 'List' lacks the required attribute 'Name'. (line 1, column 1)"},
+        Case{u"<List xmlns='urn:test'\r\n Name='x' Nme='y'/>",
+             "Attribute 'Nme' is not declared for element 'List'. (line 2, column 11)"},
+        Case{u"<List xmlns='urn:test' Name='x'>\r  text</List>",
+             "Text is not allowed in element 'List'; only elements are expected. (line 2, column "
+             "3)"},
+        Case{u"<Limits xmlns='urn:test'>\n<Value/>\n<Value/></Limits>",
+             "Element 'Value' is not allowed here in element 'Limits'; expected (Value). (line 3, "
+             "column 9)"},
+        Case{u"<Limits xmlns='urn:test'/>",
+             "Element 'Limits' must not be empty; expected (Value). (line 1, column 1)"},
+        Case{u"<Limits xmlns='urn:test'><Speed/></Limits>",
+             "Element 'Speed' is not declared by the schema. (line 1, column 26)"},
+        Case{u"<Limits xmlns='urn:test' Unit='ml'><Value/></Limits>",
+             "Attribute 'Unit' of element 'Limits' is not valid: value 'ml' not in enumeration. "
+             "(line 1, column 26)"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Malformed, Loading,
+    testing::Values(
+        Case{u"", "The text is empty; a root element was expected. (line 1, column 1)"},
+        Case{u" \r\n\t", "The text is empty; a root element was expected. (line 1, column 1)"},
+        Case{u"\uFEFF", "The text is empty; a root element was expected. (line 1, column 1)"},
+        Case{u"<!-- only -->", "There is no root element; expected one here. (line 1, column 14)"},
+        Case{u"plain", "There is no root element; expected one here. (line 1, column 1)"},
+        Case{u"<a>\n<b></a>", "End tag '</a>' does not match; expected '</b>'. (line 2, column 4)"},
+        Case{u"<a>\n", "The text ends inside element 'a'; expected '</a>'. (line 2, column 1)"},
+        Case{u"<a>\n <b c='>",
+             "The text ends inside the markup that begins here; expected '>'. (line 2, column 2)"},
+        Case{u"<a><!-- ->",
+             "The text ends inside the markup that begins here; expected '-->'. (line 1, column "
+             "4)"},
+        Case{u"<a/><b/>",
+             "Only one root element is allowed; expected the end of the text, a comment or a "
+             "processing instruction. (line 1, column 5)"},
+        Case{u"<a b='1' c='2' b='3'/>",
+             "Attribute 'b' is given twice in element 'a'. (line 1, column 16)"},
+        Case{u"<a b=1/>",
+             "An attribute value of element 'a' is not quoted; expected '\"' or \"'\". (line 1, "
+             "column 6)"},
+        Case{u"<a>&nbsp;</a>",
+             "Entity 'nbsp' is not defined; expected 'amp', 'lt', 'gt', 'apos' or 'quot'. (line 1, "
+             "column 4)"},
+        Case{u"<p:a/>",
+             "Prefix 'p' is not declared; expected an attribute 'xmlns:p'. (line 1, column 1)"},
+        Case{u"<?xml version='1.1'?><a/>",
+             "XML version '1.1' is not supported; expected '1.0'. (line 1, column 7)"},
+        Case{u"\n<!DOCTYPE a [<!ENTITY b 'c'>]><a>&b;</a>",
+             "DTD is prohibited. (line 2, column 1)"},
+        Case{u"<a b='\x1'/>", "Character U+0001 is not allowed in XML. (line 1, column 7)"},
+        Case{std::u16string(u"<a>\0</a>", 8),
+             "Character U+0000 is not allowed in XML. (line 1, column 4)"},
+        Case{u"<a>0123456789012345678901234567890123456789\n\xFFFF</a>",
+             "Character U+FFFF is not allowed in XML. (line 2, column 1)"},
+        Case{u"<a>" + std::u16string{0xD83D, 0xDE00, 0xD83D} + u"</a>",
+             "Unpaired surrogate U+D83D is not a character. (line 1, column 6)"},
+        Case{u"<a>" + std::u16string{0xDE00} + u"</a>",
+             "Unpaired surrogate U+DE00 is not a character. (line 1, column 4)"},
+        Case{u"<a>&#xD83D;</a>",
+             "Reference '&#xD83D;' is to U+D83D, which is not allowed in XML. (line 1, column 4)"},
+        Case{u"<a>&#0;</a>",
+             "Reference '&#0;' is to U+0000, which is not allowed in XML. (line 1, column 4)"}));
+
+// A text made when it is needed, since all of them together are large.
+struct HostileCase {
+  const char* name;
+  std::function<std::u16string()> text;
+  const char* expected;  // A part of the reason; null when the text is to load.
+};
+
+void PrintTo(const HostileCase& c, std::ostream* out) { *out << c.name; }
+
+class HostileText : public testing::TestWithParam<HostileCase> {};
+
+// The bound is far above what the texts take and far below what more than linear time would.
+TEST_P(HostileText, IsReadOrRefusedInTime) {
+  const HostileCase& hostile = GetParam();
+  const std::u16string text = hostile.text();
+  const auto start = std::chrono::steady_clock::now();
+  const bool loaded = Shared().loadXML(text);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+  EXPECT_EQ(loaded, hostile.expected == nullptr) << Narrow(Shared().parseError().reason);
+  if (hostile.expected != nullptr) {
+    EXPECT_NE(Narrow(Shared().parseError().reason).find(hostile.expected), std::string::npos)
+        << Narrow(Shared().parseError().reason.substr(0, 300));
+    EXPECT_LT(Shared().parseError().reason.size(), 3000U);
+  }
+  EXPECT_TRUE(Shared().loadXML(kGood));
+}
+
+// Start tags with a running number in place of "#".
+std::u16string Numbered(std::u16string_view pattern, size_t count) {
+  std::u16string out;
+  for (size_t i = 0; i < count; ++i) {
+    for (const char16_t c : pattern) {
+      if (c == u'#') {
+        out += DecimalText(i);
+      } else {
+        out += c;
+      }
+    }
+  }
+  return out;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, HostileText,
+    testing::Values(
+        HostileCase{"deepest", [] { return Repeated(u"<a>", 1000) + Repeated(u"</a>", 1000); },
+                    nullptr},
+        HostileCase{"too deep", [] { return Repeated(u"<a>", 100'000); },
+                    "Too many nested elements; at most 1000 are allowed. (line 1, column 3001)"},
+        HostileCase{"one too deep", [] { return Repeated(u"<a>", 1001); },
+                    "Too many nested elements; at most 1000 are allowed. (line 1, column 3001)"},
+        HostileCase{"marks of nesting that are none",
+                    [] {
+                      return u"<a b='" + Repeated(u">", 5000) + u"'><!--" + Repeated(u"<a>", 5000) +
+                             u"--><![CDATA[" + Repeated(u"<a>", 5000) + u"]]><?p " +
+                             Repeated(u"<a b='", 5000) + u"?></a>";
+                    },
+                    nullptr},
+        HostileCase{"many attributes", [] { return u"<a" + Numbered(u" a#='#'", 1000) + u"/>"; },
+                    nullptr},
+        HostileCase{"one attribute too many",
+                    [] { return u"<a" + Numbered(u" a#='#'", 1001) + u"/>"; },
+                    "Too many attributes on one element; at most 1000 are allowed."},
+        HostileCase{"too many attributes",
+                    [] { return u"<a" + Numbered(u" a#='#'", 200'000) + u"/>"; },
+                    "Too many attributes on one element"},
+        HostileCase{"long attribute",
+                    [] { return u"<a b='" + Repeated(u"&amp;", 2'000'000) + u"'/>"; }, nullptr},
+        HostileCase{"attribute too long by one",
+                    [] { return u"<a b='" + Repeated(u"c", 10'000'001) + u"'/>"; },
+                    "An attribute value is too long; at most 10000000 characters are allowed."},
+        HostileCase{"too long attribute",
+                    [] { return u"<a b='" + Repeated(u"c", 50'000'000) + u"'/>"; },
+                    "An attribute value is too long"},
+        HostileCase{"long text", [] { return u"<a>" + Repeated(u" &#x41;", 3'000'000) + u"</a>"; },
+                    nullptr},
+        HostileCase{"long name", [] { return u"<" + Repeated(u"a", 100'000) + u"/>"; }, nullptr},
+        HostileCase{"name too long by one",
+                    [] { return u"<a " + Repeated(u"a", 100'001) + u"=''/>"; },
+                    "A name is too long; at most 100000 characters are allowed."},
+        HostileCase{"too long name", [] { return u"<" + Repeated(u"a", 10'000'000) + u"/>"; },
+                    "A name is too long"},
+        HostileCase{"too long target",
+                    [] { return u"<?" + Repeated(u"a", 10'000'000) + u"?><a/>"; },
+                    "A name is too long"},
+        HostileCase{"long name with a fault",
+                    [] { return u"<" + Repeated(u"a", 100'000) + u" b=/>"; }, "is not quoted"},
+        HostileCase{"namespaces in scope",
+                    [] { return Numbered(u"<a xmlns:p#='u'  xmlns:q#='u' xmlns:r#='u'>", 999); },
+                    "Too many namespace declarations in scope"},
+        HostileCase{"as many namespaces in scope as there may be",
+                    [] {
+                      return Numbered(u"<a xmlns:p#='u'>", 999) + u"<a xmlns:q='u'/>" +
+                             Repeated(u"</a>", 999);
+                    },
+                    nullptr},
+        HostileCase{"one namespace in scope too many",
+                    [] {
+                      return Numbered(u"<a xmlns:p#='u'>", 999) + u"<a xmlns:q='u' xmlns:r='u'/>" +
+                             Repeated(u"</a>", 999);
+                    },
+                    "Too many namespace declarations in scope; at most 1000 are allowed."},
+        HostileCase{"as many names as there may be",
+                    [] { return u"<a>" + Numbered(u"<b#/>", 1999) + u"</a>"; }, nullptr},
+        HostileCase{"one name too many", [] { return u"<a>" + Numbered(u"<b#/>", 2000) + u"</a>"; },
+                    "Too many different names that the schema does not declare; at most 2000 are"},
+        HostileCase{"namespaces one after the other",
+                    [] { return u"<a>" + Numbered(u"<b xmlns:p='u#'/>", 1'000'000) + u"</a>"; },
+                    "Too many different names"},
+        HostileCase{"names one after the other",
+                    [] { return u"<a>" + Numbered(u"<b#/>", 500'000) + u"</a>"; },
+                    "Too many different names"},
+        HostileCase{"many elements", [] { return u"<a>" + Repeated(u"<b/>", 1'000'000) + u"</a>"; },
+                    nullptr},
+        HostileCase{"references without end", [] { return u"<a>" + Repeated(u"&a", 5'000'000); },
+                    "entity reference"},
+        HostileCase{"brackets", [] { return u"<a><![CDATA[" + Repeated(u"]", 5'000'000); },
+                    "expected ']]>'"},
+        HostileCase{"many start tags without end", [] { return Repeated(u"<a b='", 2'000'000); },
+                    "line 1, column"}));
+
+// Of a text that is too long nothing is looked at.
+TEST(XmlDocument, RefusesATextThatIsTooLong) {
+  const std::u16string few = u"<a/>";
+  EXPECT_FALSE(Shared().loadXML({few.data(), 500'000'001}));
+  EXPECT_EQ(Narrow(Shared().parseError().reason),
+            "The document is too long; at most 500000000 characters are allowed.");
+  EXPECT_EQ(Shared().parseError().place, Place());
+}
+
+TEST(XmlDocument, AsksForTheSchemaOnceAndWhenFirstNeeded) {
+  int asked = 0;
+  XmlDocument document([&] {
+    ++asked;
+    return TestSchema();
+  });
+  EXPECT_EQ(asked, 0);
+  EXPECT_FALSE(document.documentElement());
+  EXPECT_TRUE(document.loadXML(kGood));
+  EXPECT_FALSE(document.loadXML(u"<"));
+  EXPECT_TRUE(document.loadXML(kGood));
+  EXPECT_EQ(asked, 1);
+}
+
+TEST(XmlDocument, SchemaThatCannotBeUsedFailsEveryLoadUntilItCan) {
+  XmlSchemaSource schema = TestSchema();
+  XmlDocument document([&] { return schema; });
+  const auto reasonWith = [&](const std::string& content) {
+    schema.content = content;
+    EXPECT_FALSE(document.loadXML(kGood));
+    EXPECT_EQ(document.parseError().place, Place());
+    return Narrow(document.parseError().reason);
+  };
+  const std::string reason = reasonWith("<xs:schema\n xs:a");
+  EXPECT_TRUE(reason.starts_with("The schema 'test.xsd' cannot be used: ")) << reason;
+  EXPECT_TRUE(reason.ends_with(" (line 2, column 6 of the schema)")) << reason;
+  EXPECT_NE(reasonWith("").find("The schema 'test.xsd' cannot be used: "), std::string::npos);
+  std::string content = kSchema;
+  EXPECT_NE(reasonWith(content.replace(content.find("xs:int"), 6, "xs:odd")).find("odd"),
+            std::string::npos);
+  content = kSchema;
+  content.insert(content.find("<xs:element"),
+                 "<xs:include schemaLocation='test.xsd'/>"
+                 "<xs:attribute name='a' type='Included'/>");
+  EXPECT_NE(reasonWith(content).find("Included"), std::string::npos);
+  schema.targetNamespace = u"urn:other";
+  EXPECT_NE(reasonWith(kSchema).find("the target namespace is not 'urn:other'"), std::string::npos);
+  schema = TestSchema();
+  EXPECT_TRUE(document.loadXML(kGood));
+}
+
+TEST(XmlDocument, TellsWhetherTheRootIsDeclared) {
+  XmlDocument document(TestSchema);
+  const auto declared = [&](std::u16string_view text) {
+    EXPECT_TRUE(document.loadXML(text)) << Narrow(document.parseError().reason);
+    return document.rootDeclared();
+  };
+  EXPECT_TRUE(declared(kGood));
+  EXPECT_TRUE(declared(u"<t:Value xmlns:t='urn:test'/>"));
+  EXPECT_FALSE(declared(u"<Value/>"));
+  EXPECT_FALSE(declared(u"<Value xmlns='urn:other'/>"));
+  EXPECT_FALSE(declared(u"<Other xmlns='urn:test'><Limits High='x'/></Other>"));
+  EXPECT_FALSE(document.loadXML(u"<Other xmlns='urn:test'><Limits></Other>"));
+  EXPECT_FALSE(document.rootDeclared());
+}
+
+TEST(XmlDocument, ReadsMoreThanOneBlockOfEverything) {
+  XmlDocument document(TestSchema);
+  constexpr size_t kItems = 20'000;
+  const std::u16string text = u"<List xmlns='urn:test' Name='all'>" +
+                              Numbered(u"<List Name='#'><Value>text #</Value></List>\n", kItems) +
+                              u"</List>";
+  ASSERT_TRUE(document.loadXML(kGood));
+  ASSERT_TRUE(document.loadXML(text)) << Narrow(document.parseError().reason);
+  size_t i = 0;
+  for (XmlNode item = document.documentElement().firstChild(); item; item = item.nextSibling()) {
+    const std::u16string number = DecimalText(i++);
+    ASSERT_EQ(item.attribute(u"Name")->value(), number);
+    ASSERT_EQ(item.attribute(u"Scope")->value(), u"private");
+    ASSERT_EQ(item.firstChild().firstChild().nodeValue(), u"text " + number);
+    if (i % 1000 == 0) {
+      ASSERT_EQ(
+          item.xml(),
+          Numbered(u"<List Name='" + number + u"'><Value>text " + number + u"</Value></List>", 1));
+    }
+  }
+  EXPECT_EQ(i, kItems);
+  ASSERT_TRUE(document.loadXML(kGood));
+  EXPECT_EQ(Outline(document.documentElement()),
+            "List(xmlns='urn:test' Name='x' Scope~'private' Hidden~'0')");
+}
+
+TEST(XmlDocument, LoadsOnAfterManyForeignNamespaces) {
+  XmlDocument document(TestSchema);
+  for (size_t round = 0; round < 3; ++round) {
+    const std::u16string other = u"'u" + DecimalText(round) + u"-#'";
+    const std::u16string text =
+        u"<a>" + Numbered(u"<b xmlns:p=" + other + u" p:c=''/>", 1900) + u"</a>";
+    ASSERT_TRUE(document.loadXML(text)) << Narrow(document.parseError().reason);
+    EXPECT_EQ(Narrow(document.documentElement().firstChild().nodeName()), "b");
+  }
+  EXPECT_TRUE(document.loadXML(kGood));
+}
+
+// Whatever is done to one character of a document, or to its end, it loads or fails with a reason
+// and a place.
+TEST(XmlDocument, SurvivesDamage) {
+  const std::u16string whole =
+      u"<?xml version='1.0'?><!-- a --><List xmlns='urn:test' Name=\"&#65;\">\n"
+      u"<Limits High='1' Unit='mm'><Value>&lt;<![CDATA[b]]></Value></Limits><?c d?></List>";
+  const auto check = [](std::u16string_view text) {
+    XmlDocument& document = Shared();
+    if (document.loadXML(text)) {
+      Outline(document.documentElement());
+      document.documentElement().firstChild().xml();
+      return;
+    }
+    const XmlParseError& error = document.parseError();
+    const std::string place = "(line " + std::to_string(error.place.line) + ", column " +
+                              std::to_string(error.place.column) + ")";
+    EXPECT_TRUE(Narrow(error.reason).ends_with(place)) << Narrow(text);
+    EXPECT_GE(error.place, (Place{1, 1})) << Narrow(text);
+  };
+  for (size_t at = 0; at < whole.size(); ++at) {
+    check(std::u16string_view(whole).substr(0, at));
+    for (const char16_t c : std::u16string_view(u"<>&'\"/=!?]-: a\0\xD800", 16)) {
+      std::u16string damaged = whole;
+      damaged[at] = c;
+      check(damaged);
+    }
+  }
+  EXPECT_TRUE(Shared().loadXML(whole)) << Narrow(Shared().parseError().reason);
+}
+
+TEST(XmlDocument, NeverFollowsSchemaLocations) {
+  EXPECT_EQ(Load(u"<Value xmlns='urn:test' xmlns:i='http://www.w3.org/2001/XMLSchema-instance' "
+                 u"i:schemaLocation='urn:no file:///dev/zero'>a</Value>"),
+            "Value(xmlns='urn:test' xmlns:i='http://www.w3.org/2001/XMLSchema-instance' "
+            "i:schemaLocation='urn:no file:///dev/zero')['a']");
+}
+
+TEST(XmlNode, AbsentNodesLeadToAbsentNodes) {
+  const XmlNode absent;
+  EXPECT_FALSE(absent.firstChild().nextSibling().childNode(3));
+  EXPECT_EQ(absent.name(), nullptr);
+  EXPECT_EQ(absent.attribute(u"a"), nullptr);
+  EXPECT_TRUE(absent.nodeName().empty() && absent.nodeValue().empty() && absent.xml().empty());
+  EXPECT_EQ(absent.place(), Place());
+}
+
+TEST(XmlNode, FindsAttributesInAnyOrder) {
+  XmlDocument document(TestSchema);
+  ASSERT_TRUE(document.loadXML(u"<List xmlns='urn:test' Name='x' Hidden=''/>"));
+  const XmlNode root = document.documentElement();
+  for (const char16_t* const name : {u"Hidden", u"Name", u"Scope", u"Scope", u"xmlns"}) {
+    const XmlAttribute* const attribute = root.attribute(InternXmlName(name));
+    ASSERT_NE(attribute, nullptr) << Narrow(name);
+    EXPECT_EQ(*attribute->name, name);
+    EXPECT_EQ(attribute, root.attribute(std::u16string_view(name)));
+  }
+  EXPECT_EQ(root.attribute(u"name"), nullptr);
+  EXPECT_EQ(root.name(), InternXmlName(u"List"));
+}
+
+TEST(XmlNode, NamesInternedAfterTheLoadAreTheSame) {
+  XmlDocument document(TestSchema);
+  ASSERT_TRUE(document.loadXML(u"<Unheard><Unseen/></Unheard>"));
+  EXPECT_EQ(document.documentElement().name(), InternXmlName(u"Unheard"));
+  document.clear();
+  ASSERT_TRUE(document.loadXML(u"<Unheard/>"));
+  EXPECT_EQ(document.documentElement().name(), InternXmlName(u"Unheard"));
+}
+
+TEST(XmlNode, ChildrenByIndexAndPositions) {
+  XmlDocument document(TestSchema);
+  ASSERT_TRUE(
+      document.loadXML(u"<!-- a --><o>\r\n <b/> text\n<c> </c><!-- d -->\n"
+                       u"<?e f?><g><![CDATA[h]]>i</g></o>"));
+  const XmlNode root = document.documentElement();
+  const struct {
+    const char* name;
+    Place place;
+  } expected[] = {{"b", {2, 2}},        {"#text", {2, 6}}, {"c", {3, 1}},
+                  {"#comment", {3, 9}}, {"e", {4, 1}},     {"g", {4, 8}}};
+  for (size_t i = 0; i < std::size(expected); ++i) {
+    EXPECT_EQ(Narrow(root.childNode(i).nodeName()), expected[i].name);
+    EXPECT_EQ(root.childNode(i).place(), expected[i].place) << expected[i].name;
+  }
+  EXPECT_FALSE(root.childNode(std::size(expected)));
+  EXPECT_EQ(root.childNode(2).firstChild().place(), (Place{3, 4}));
+  EXPECT_EQ(root.childNode(5).firstChild().place(), (Place{4, 11}));
+  EXPECT_EQ(root.place(), (Place{1, 11}));
+}
+
+// The markup of the first child of the root.
+std::string FirstChildMarkup(std::u16string_view text) {
+  XmlDocument document(TestSchema);
+  EXPECT_TRUE(document.loadXML(text)) << Narrow(document.parseError().reason);
+  return Narrow(document.documentElement().firstChild().xml());
+}
+
+TEST(XmlNode, MarkupStandsByItself) {
+  const struct {
+    std::u16string_view text;
+    const char* expected;
+  } cases[] = {
+      {u"<List xmlns='urn:test' Name='x'> <Value >a &lt;<![CDATA[<>]]>\n</Value > </List>",
+       "<Value >a &lt;<![CDATA[<>]]>\n</Value >"},
+      {u"<a><b\nc=\"/>\"/></a>", "<b xmlns=''\nc=\"/>\"/>"},
+      {u"<a><b xmlns='urn:test'/></a>", "<b xmlns='urn:test'/>"},
+      {u"<a xmlns='o'><b/></a>", "<b xmlns='o'/>"},
+      {u"<t:List xmlns:t='urn:test' xmlns='urn:test' Name='x'><t:Value/></t:List>",
+       "<t:Value xmlns:t='urn:test'/>"},
+      {u"<a xmlns='urn:test' xmlns:p=\"it's &lt;&amp;&#10;\" xmlns:q='q'><b p:c='q:d'/></a>",
+       "<b xmlns:p='it&#39;s &#60;&#38;&#10;' p:c='q:d'/>"},
+      {u"<a xmlns='urn:test' xmlns:p='1' xmlns:q='2'>"
+       u"<b xml:lang='x'><p:c xmlns:p='3'><p:d/></p:c><q:e/><q:e/><!-- p:f --></b></a>",
+       "<b xmlns:q='2' xml:lang='x'><p:c xmlns:p='3'><p:d/></p:c><q:e/><q:e/><!-- p:f --></b>"},
+      {u"<a xmlns='urn:test' xmlns:p='1'><b><c xmlns:p='2'/><p:d/></b></a>",
+       "<b xmlns:p='1'><c xmlns:p='2'/><p:d/></b>"},
+      {u"<a>1 &lt; 2 &amp;&#13;]]&gt;</a>", "1 &lt; 2 &amp;&#13;]]&gt;"},
+      {u"<a><!-- b --></a>", "<!-- b -->"},
+      {u"<a><?b  c?></a>", "<?b c?>"},
+      {u"<a><?b?></a>", "<?b?>"},
+  };
+  for (const auto& [text, expected] : cases) EXPECT_EQ(FirstChildMarkup(text), expected);
+}
+
+}  // namespace
+}  // namespace praxen

@@ -1,0 +1,15 @@
+// The manifest for using the library on Windows without registering it.
+#ifndef TOOLS_GENERATE_MANIFEST_H_
+#define TOOLS_GENERATE_MANIFEST_H_
+
+#include <string>
+
+namespace praxen {
+
+/// An assembly manifest in UTF-8 that names every creatable class and every interface; it lies
+/// beside the library and is named as a dependency by the program that uses it.
+std::string GenerateManifest();
+
+}  // namespace praxen
+
+#endif  // TOOLS_GENERATE_MANIFEST_H_

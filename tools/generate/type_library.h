@@ -1,0 +1,20 @@
+// The source of the type library, from the descriptions of classes and enumerations.
+#ifndef TOOLS_GENERATE_TYPE_LIBRARY_H_
+#define TOOLS_GENERATE_TYPE_LIBRARY_H_
+
+#include <string>
+#include <string_view>
+
+#include "praxen/describe/description.h"
+
+namespace praxen {
+
+/// The type as interface definitions spell it: "BSTR", "_Variable*", "DirectionValue".
+std::string TypeLibraryType(const ValueType& type);
+
+/// The interface definition of the whole library.
+std::string GenerateTypeLibrary();
+
+}  // namespace praxen
+
+#endif  // TOOLS_GENERATE_TYPE_LIBRARY_H_
