@@ -6,7 +6,7 @@
 #include "bench/documents.h"
 #include "praxen/automation/values.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 constexpr size_t kCalls = 20'000;
@@ -169,4 +169,4 @@ std::vector<Result> MeasureAutomation(int rounds) {
   return Measure(jobs, rounds);
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

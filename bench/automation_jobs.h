@@ -6,12 +6,12 @@
 
 #include "bench/job.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 
 /// Property get and put, additions and enumeration: directly in C++, through the interface table,
 /// by cached identifier and by name.
 std::vector<Result> MeasureAutomation(int rounds);
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench
 
 #endif  // PRAXEN_BENCH_AUTOMATION_JOBS_H_

@@ -10,7 +10,7 @@
 #include "praxen/factory/classes.h"
 #include "tools/generate/schema.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 using Names = std::set<std::u16string>;
@@ -102,7 +102,7 @@ std::string ClosedSchema(const std::u16string& root) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail
 
 int main(int argc, char** argv) {
   if (argc != 3) {

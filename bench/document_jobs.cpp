@@ -6,7 +6,7 @@
 #include "bench/documents.h"
 #include "bench/peers.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 struct Peer {
@@ -136,4 +136,4 @@ std::vector<Result> MeasureGrowth(int rounds) {
   return results;
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

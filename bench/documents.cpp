@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdio>
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 const std::array<Text, 4>& Types() {
@@ -130,4 +130,4 @@ std::vector<Text> BuildSmallDocuments(size_t count) {
   return documents;
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

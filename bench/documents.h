@@ -7,7 +7,7 @@
 
 #include "praxen/praxen.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 
 /// Three variables for each function block, and three code blocks for every twenty.
 Ref<Program> BuildProgram(size_t functionBlocks);
@@ -21,6 +21,6 @@ std::vector<Text> BuildSmallDocuments(size_t count);
 /// A name with a number of at least five digits.
 Text Numbered(std::u16string_view name, size_t number);
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench
 
 #endif  // PRAXEN_BENCH_DOCUMENTS_H_

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <string_view>
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 const Result* Find(const std::vector<Result>& results, std::string_view task,
@@ -79,4 +79,4 @@ void PrintGoals(const std::vector<Goal>& goals) {
   }
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -7,7 +7,7 @@
 
 #include "bench/job.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 
 /// A measured figure and its bound.
 struct Goal {
@@ -26,6 +26,6 @@ std::vector<Goal> GrowthGoals(const std::vector<Result>& growth);
 
 void PrintGoals(const std::vector<Goal>& goals);
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench
 
 #endif  // PRAXEN_BENCH_GOALS_H_

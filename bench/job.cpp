@@ -7,7 +7,7 @@
 #include <chrono>
 #include <map>
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -89,4 +89,4 @@ std::vector<Result> Measure(const std::vector<Job>& jobs, int rounds) {
   return results;
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -11,7 +11,7 @@
 
 #include "bench/memory.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 
 /// What a job makes; it is released outside the measured time.
 using Product = std::shared_ptr<void>;
@@ -50,6 +50,6 @@ void PrintRates(const std::vector<Result>& results);
 /// How the time per unit of work changes from each result to the next of the same means.
 void PrintGrowth(const std::vector<Result>& results);
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench
 
 #endif  // PRAXEN_BENCH_JOB_H_

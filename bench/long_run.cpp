@@ -9,7 +9,7 @@
 
 #include "bench/documents.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 // What the allocator and the system may keep without anything being lost.
@@ -54,4 +54,4 @@ bool RunLong(int calls) {
   return isFlat;
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -15,7 +15,7 @@
 #include "bench/model_memory.h"
 #include "bench/start.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 void RunAll(int rounds) {
@@ -63,11 +63,11 @@ int Main(int argc, char** argv) {
 }
 
 }  // namespace
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench
 
 int main(int argc, char** argv) {
   try {
-    return praxen::bench::Main(argc, argv);
+    return praxen::detail::bench::Main(argc, argv);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "praxen_bench: %s\n", error.what());
     return 1;

@@ -16,7 +16,7 @@ void __libc_free(void* memory);
 namespace {
 
 constinit bool counting = false;
-constinit praxen::bench::MemoryUse counted;
+constinit praxen::detail::bench::MemoryUse counted;
 
 void* Count(void* memory) {
   if (!counting || memory == nullptr) return memory;
@@ -49,7 +49,7 @@ void free(void* memory) noexcept {
 
 }  // extern "C"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 
 MemoryCount::MemoryCount() {
   counted = {};
@@ -60,4 +60,4 @@ MemoryCount::~MemoryCount() { counting = false; }
 
 MemoryUse MemoryCount::use() const { return counted; }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

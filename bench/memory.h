@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 
 /// Memory taken since the counting began, as the allocator hands it out.
 struct MemoryUse {
@@ -25,6 +25,6 @@ class MemoryCount {
   MemoryUse use() const;
 };
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench
 
 #endif  // PRAXEN_BENCH_MEMORY_H_

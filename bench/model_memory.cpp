@@ -6,7 +6,7 @@
 #include "bench/documents.h"
 #include "bench/memory.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 template <class Make>
@@ -60,4 +60,4 @@ std::vector<Goal> MemoryGoals() {
            Goal::Bound::AtMost, 3}};
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -6,13 +6,13 @@
 
 #include "bench/goals.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 
 /// Prints bytes per variable, function block and channel, after building and after reading.
 void PrintModelMemory();
 /// The memory of a large program's reading and of its objects against the bytes of its text.
 std::vector<Goal> MemoryGoals();
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench
 
 #endif  // PRAXEN_BENCH_MODEL_MEMORY_H_

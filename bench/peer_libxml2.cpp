@@ -9,7 +9,7 @@
 #include "bench/peers.h"
 #include "tools/generate/schema.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 template <auto Free>
@@ -76,4 +76,4 @@ Reader Libxml2Reader() {
   };
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -5,7 +5,7 @@
 
 #include "bench/peers.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 struct Tree final : Parsed {
@@ -54,4 +54,4 @@ Writer PugixmlWriter(std::u16string_view text) {
   };
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -15,7 +15,7 @@
 
 #include "bench/peers.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 struct StopAtError final : xercesc::DOMErrorHandler {
@@ -133,4 +133,4 @@ Writer TreeWriter(std::u16string_view text) {
   };
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -14,7 +14,7 @@
 #include "bench/peers.h"
 #include "tools/generate/schema.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 struct Events final : Parsed {
@@ -86,4 +86,4 @@ Reader XercesReader() {
   };
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string_view>
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 
 /// What a peer has made of a document.
 class Parsed {
@@ -35,6 +35,6 @@ Reader TreeReader();
 /// C++/Tree serializing the classes as UTF-16.
 Writer TreeWriter(std::u16string_view text);
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench
 
 #endif  // PRAXEN_BENCH_PEERS_H_

@@ -7,7 +7,7 @@
 #include "bench/documents.h"
 #include "bench/memory.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 double ProcessorMilliseconds() {
@@ -36,4 +36,4 @@ void PrintStart() {
   PrintStep("second document read", [&] { ObjectFactory::DeserializeProgram(text); });
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

@@ -3,7 +3,7 @@
 
 #include "bench/job.h"
 
-namespace praxen::bench {
+namespace praxen::detail::bench {
 namespace {
 
 constexpr double kMillion = 1e6;
@@ -58,4 +58,4 @@ void PrintGrowth(const std::vector<Result>& results) {
   }
 }
 
-}  // namespace praxen::bench
+}  // namespace praxen::detail::bench

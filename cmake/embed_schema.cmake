@@ -7,7 +7,7 @@ endif()
 file(WRITE ${OUTPUT} "// Written by embed_schema.cmake: the schema, UTF-8.
 #include <string_view>
 
-namespace praxen {
+namespace praxen::detail {
 
 std::string_view EmbeddedSchema();
 
@@ -16,5 +16,5 @@ std::string_view EmbeddedSchema() {
   return {kSchema, sizeof kSchema - 1};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail
 ")

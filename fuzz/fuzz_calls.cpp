@@ -15,12 +15,12 @@
 
 namespace {
 
-using praxen::Broken;
 using praxen::ComPointer;
-using praxen::FuzzInput;
-using praxen::Member;
 using praxen::Object;
 using praxen::Variant;
+using praxen::detail::Broken;
+using praxen::detail::FuzzInput;
+using praxen::detail::Member;
 
 constexpr int kMostCalls = 200;
 constexpr int kDeepestReference = 3;
@@ -67,7 +67,8 @@ class Stranger final : public IDispatch {
 // The arguments of a call, and what they refer to, which lives as long as they do.
 class Arguments {
  public:
-  Arguments(FuzzInput& input, const praxen::ObjectPool& pool) : input_(input), pool_(pool) {}
+  Arguments(FuzzInput& input, const praxen::detail::ObjectPool& pool)
+      : input_(input), pool_(pool) {}
   Arguments(const Arguments&) = delete;
   Arguments& operator=(const Arguments&) = delete;
   ~Arguments() {
@@ -163,7 +164,7 @@ class Arguments {
     if (input_.OneIn(8)) return nullptr;
     if (input_.OneIn(8)) return SysAllocStringByteLen("odd", 3);
     if (input_.OneIn(4)) return SysAllocString(input_.OneOf(kTexts));
-    return praxen::AllocateBstr(input_.AnyText().view());
+    return praxen::detail::AllocateBstr(input_.AnyText().view());
   }
 
   IDispatch* Shared() {
@@ -171,7 +172,7 @@ class Arguments {
     if (input_.OneIn(8)) return shared;
     Object* const object = input_.OneIn(8) ? nullptr : pool_.Choose(input_);
     if (object != nullptr) {
-      shared = praxen::AsDispatch(*object);
+      shared = praxen::detail::AsDispatch(*object);
     } else {
       VARIANT answer = {};
       answer.vt = static_cast<VARTYPE>(input_.OneIn(2) ? VT_I4 : VT_NULL);
@@ -183,7 +184,7 @@ class Arguments {
   }
 
   FuzzInput& input_;
-  const praxen::ObjectPool& pool_;
+  const praxen::detail::ObjectPool& pool_;
   std::vector<Variant> values_;
   // Addresses stay.
   std::deque<Variant> referred_;
@@ -225,13 +226,14 @@ class Client {
  private:
   // Through the object's own interface or that of its kind.
   IDispatch* InterfaceOf(Object& object) {
-    praxen::Interface* const kind = input_.OneIn(4) ? object.kindInterface() : nullptr;
-    return kind == nullptr ? praxen::AsDispatch(object) : reinterpret_cast<IDispatch*>(kind);
+    praxen::detail::Interface* const kind = input_.OneIn(4) ? object.kindInterface() : nullptr;
+    return kind == nullptr ? praxen::detail::AsDispatch(object)
+                           : reinterpret_cast<IDispatch*>(kind);
   }
 
   // Null for an identifier that may be none of a member's.
   const Member* ChooseMember(const Object& object) {
-    const praxen::ClassDescription& description = object.description();
+    const praxen::detail::ClassDescription& description = object.description();
     const bool ofKind = description.kind != nullptr && input_.OneIn(4);
     const auto& members = ofKind ? description.kind->members : description.members;
     if (members.empty() || input_.OneIn(16)) return nullptr;
@@ -242,7 +244,7 @@ class Client {
   static bool IsCheap(Object& object, const Member& member) {
     const bool branches = std::ranges::any_of(
         member.parameters, [](const auto& parameter) { return parameter.name == "NrOfBranches"; });
-    return !branches && (member.name != "Serialize" || praxen::IsSmall(object));
+    return !branches && (member.name != "Serialize" || praxen::detail::IsSmall(object));
   }
 
   void Invoke(Object& object) {
@@ -385,15 +387,15 @@ class Client {
   }
 
   FuzzInput input_;
-  praxen::ObjectPool pool_;
+  praxen::detail::ObjectPool pool_;
   std::vector<Enumerator> enumerators_;
 };
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const praxen::NothingStays counted;
+  const praxen::detail::NothingStays counted;
   Client(FuzzInput(data, size)).Run();
-  praxen::SetIncludeCRLFInXML(true);
+  praxen::detail::SetIncludeCRLFInXML(true);
   return 0;
 }

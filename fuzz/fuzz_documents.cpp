@@ -12,14 +12,14 @@ extern "C" size_t LLVMFuzzerMutate(uint8_t* data, size_t size, size_t most);
 
 namespace {
 
-using praxen::ClassDescription;
 using praxen::Object;
 using praxen::Ref;
 using praxen::Text;
+using praxen::detail::ClassDescription;
 
 // The name of the first element, without a prefix.
 std::u16string RootName(std::string_view xml) {
-  const praxen::Markup markup = praxen::FindMarkup(xml);
+  const praxen::detail::Markup markup = praxen::detail::FindMarkup(xml);
   if (markup.elements.empty()) return {};
   const std::string_view name = markup.elements.front().name.In(xml);
   return praxen::FromUtf8(name.substr(name.find(':') + 1));
@@ -27,9 +27,9 @@ std::u16string RootName(std::string_view xml) {
 
 void ReadAs(const ClassDescription& description, const Text& document) {
   Ref<Object> read;
-  const auto reading = [&] { read = praxen::DeserializeObject(description, document); };
-  if (praxen::Succeeds(praxen::ReadingErrors(), reading)) {
-    praxen::HoldRoundTrip(*read, praxen::Values::Carried);
+  const auto reading = [&] { read = praxen::detail::DeserializeObject(description, document); };
+  if (praxen::detail::Succeeds(praxen::detail::ReadingErrors(), reading)) {
+    praxen::detail::HoldRoundTrip(*read, praxen::detail::Values::Carried);
   }
 }
 
@@ -37,7 +37,7 @@ void ReadAs(const ClassDescription& description, const Text& document) {
 void Read(std::string_view xml) {
   const Text document = praxen::FromUtf8(xml);
   const std::u16string name = RootName(xml);
-  for (const praxen::ClassDescription& description : praxen::AllClasses()) {
+  for (const praxen::detail::ClassDescription& description : praxen::detail::AllClasses()) {
     if (description.create == nullptr || description.FindMember(u"Serialize") == nullptr) continue;
     if (description.layout().element == name) ReadAs(description, document);
   }
@@ -56,9 +56,9 @@ std::string_view ViewOf(const uint8_t* data, size_t size) {
 }  // namespace
 
 extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t most, unsigned seed) {
-  praxen::Random random(seed);
+  praxen::detail::Random random(seed);
   const std::string changed =
-      random.OneIn(8) ? std::string() : praxen::Mutated(ViewOf(data, size), random);
+      random.OneIn(8) ? std::string() : praxen::detail::Mutated(ViewOf(data, size), random);
   const size_t stored = Store(changed, data, most);
   return stored != 0 ? stored : LLVMFuzzerMutate(data, size, most);
 }
@@ -66,13 +66,14 @@ extern "C" size_t LLVMFuzzerCustomMutator(uint8_t* data, size_t size, size_t mos
 extern "C" size_t LLVMFuzzerCustomCrossOver(const uint8_t* first, size_t firstSize,
                                             const uint8_t* second, size_t secondSize, uint8_t* out,
                                             size_t most, unsigned seed) {
-  praxen::Random random(seed);
-  return Store(praxen::Spliced(ViewOf(first, firstSize), ViewOf(second, secondSize), random), out,
-               most);
+  praxen::detail::Random random(seed);
+  return Store(
+      praxen::detail::Spliced(ViewOf(first, firstSize), ViewOf(second, secondSize), random), out,
+      most);
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const praxen::NothingStays counted;
+  const praxen::detail::NothingStays counted;
   Read(ViewOf(data, size));
   return 0;
 }

@@ -15,15 +15,15 @@
 
 namespace {
 
-using praxen::FuzzInput;
-using praxen::Member;
 using praxen::Object;
 using praxen::Ref;
 using praxen::Text;
-using praxen::ValueKind;
-using praxen::Values;
-using praxen::ValueType;
 using praxen::Variant;
+using praxen::detail::FuzzInput;
+using praxen::detail::Member;
+using praxen::detail::ValueKind;
+using praxen::detail::Values;
+using praxen::detail::ValueType;
 
 constexpr int kMostCalls = 100;
 constexpr int kDepth = 7;
@@ -67,7 +67,7 @@ class Client {
       CallAny(*object);
     }
     // A call may have changed the setting.
-    praxen::SetIncludeCRLFInXML(true);
+    praxen::detail::SetIncludeCRLFInXML(true);
     for (const Ref<Object>& object : pool_.objects()) FillRequired(*object);
     const size_t count = std::min(pool_.objects().size(), kMostDocuments);
     for (size_t i = 0; i < count; ++i) Hold(*pool_.objects()[i]);
@@ -96,9 +96,9 @@ class Client {
 
   // No document tells that there is no object where a new one has one, so a client who sets what a
   // document can carry calls with none by mistake only, as with a value of another type.
-  Variant Reference(const praxen::ClassDescription& wanted) {
+  Variant Reference(const praxen::detail::ClassDescription& wanted) {
     Object* const object = input_.OneIn(32) ? nullptr : pool_.Choose(input_, wanted);
-    if (object != nullptr) return Variant(praxen::AsDispatch(*object));
+    if (object != nullptr) return Variant(praxen::detail::AsDispatch(*object));
     return values_ == Values::Carried ? Variant() : Variant(static_cast<IDispatch*>(nullptr));
   }
 
@@ -139,7 +139,7 @@ class Client {
   void GrowResult(Object& object, const Member& member, int depth) {
     const Variant result = Call(object, member);
     if (result.vt != VT_DISPATCH) return;
-    const Ref<Object> grown = praxen::value_type::ObjectFromVariant(result, nullptr);
+    const Ref<Object> grown = praxen::detail::value_type::ObjectFromVariant(result, nullptr);
     if (grown) Grow(*grown, depth);
   }
 
@@ -153,7 +153,7 @@ class Client {
 
   Variant Call(Object& object, const Member& member) {
     const bool writes = member.name == "Serialize";
-    if (writes && !praxen::IsSmall(object)) return {};
+    if (writes && !praxen::detail::IsSmall(object)) return {};
     // Last argument first.
     std::vector<Variant> arguments;
     for (const auto& parameter : member.parameters) {
@@ -179,15 +179,16 @@ class Client {
 
   static void Invoke(Object& object, const Member& member, WORD flags, DISPPARAMS& parameters,
                      VARIANT* result) {
-    praxen::AsDispatch(object)->Invoke(member.id, IID_NULL, 0, flags, &parameters, result, nullptr,
-                                       nullptr);
+    praxen::detail::AsDispatch(object)->Invoke(member.id, IID_NULL, 0, flags, &parameters, result,
+                                               nullptr, nullptr);
   }
 
   // What a client must set before an object can be written.
   static void FillRequired(Object& object) {
     if (object.description().layout == nullptr) return;
-    for (const praxen::Attribute& attribute : object.description().layout().attributes) {
-      if (attribute.rule != praxen::Rule::Required || attribute.type.kind != ValueKind::Text)
+    for (const praxen::detail::Attribute& attribute : object.description().layout().attributes) {
+      if (attribute.rule != praxen::detail::Rule::Required ||
+          attribute.type.kind != ValueKind::Text)
         continue;
       Text& text = *static_cast<Text*>(attribute.storage(object));
       if (text.empty()) text = u"required";
@@ -196,12 +197,13 @@ class Client {
 
   void Hold(Object& object) {
     const bool isDocument = object.description().FindMember(u"Serialize") != nullptr;
-    if (isDocument && praxen::IsSmall(object)) praxen::HoldRoundTrip(object, values_);
+    if (isDocument && praxen::detail::IsSmall(object))
+      praxen::detail::HoldRoundTrip(object, values_);
   }
 
   FuzzInput input_;
   const Values values_;
-  praxen::ObjectPool pool_;
+  praxen::detail::ObjectPool pool_;
   // What was written last.
   Text document_;
 };
@@ -209,7 +211,7 @@ class Client {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const praxen::NothingStays counted;
+  const praxen::detail::NothingStays counted;
   Client(FuzzInput(data, size)).Run();
   return 0;
 }

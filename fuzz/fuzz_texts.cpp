@@ -10,13 +10,13 @@
 
 namespace {
 
-using praxen::Member;
 using praxen::Variant;
+using praxen::detail::Member;
 
 const std::vector<const Member*>& ReadingOperations() {
   static const std::vector<const Member*> operations = [] {
     std::vector<const Member*> found;
-    for (const Member& member : praxen::Describe<praxen::ObjectFactory>().members) {
+    for (const Member& member : praxen::detail::Describe<praxen::ObjectFactory>().members) {
       if (member.name.starts_with("Deserialize")) found.push_back(&member);
     }
     return found;
@@ -25,7 +25,7 @@ const std::vector<const Member*>& ReadingOperations() {
 }
 
 // As automation clients may pass it: of any number of bytes.
-Variant ToVariant(const praxen::FuzzInput& input) {
+Variant ToVariant(const praxen::detail::FuzzInput& input) {
   Variant text;
   text.bstrVal = SysAllocStringByteLen(reinterpret_cast<const char*>(input.data()),
                                        static_cast<UINT>(input.size()));
@@ -33,24 +33,24 @@ Variant ToVariant(const praxen::FuzzInput& input) {
   return text;
 }
 
-void Read(praxen::FuzzInput input) {
+void Read(praxen::detail::FuzzInput input) {
   const auto& operations = ReadingOperations();
   const Member& operation = *operations[input.Below(operations.size())];
   const Variant text = ToVariant(input);
   const VARIANT* const argument = &text;
   Variant result;
-  const bool isRead = praxen::Succeeds(praxen::ReadingErrors(), [&] {
-    operation.invokeGet(praxen::SharedFactory(), &argument, result);
+  const bool isRead = praxen::detail::Succeeds(praxen::detail::ReadingErrors(), [&] {
+    operation.invokeGet(praxen::detail::SharedFactory(), &argument, result);
   });
   if (!isRead) return;
-  praxen::HoldRoundTrip(*praxen::value_type::ObjectFromVariant(result, nullptr),
-                        praxen::Values::Carried);
+  praxen::detail::HoldRoundTrip(*praxen::detail::value_type::ObjectFromVariant(result, nullptr),
+                                praxen::detail::Values::Carried);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const praxen::NothingStays counted;
+  const praxen::detail::NothingStays counted;
   Read({data, size});
   return 0;
 }

@@ -8,7 +8,7 @@
 
 #include "praxen/core/text.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Takes values from the front of an input; zeros when it is used up.
 class FuzzInput {
@@ -61,6 +61,6 @@ class FuzzInput {
   size_t size_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FUZZ_INPUT_H_

@@ -7,7 +7,7 @@
 #include "praxen/factory/classes.h"
 #include "praxen/xml/xml_limits.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -120,4 +120,4 @@ bool IsSmall(Object& object) {
   return Count(object, 0, left);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

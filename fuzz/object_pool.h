@@ -8,7 +8,7 @@
 #include "praxen/automation/automation.h"
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The object as automation clients see it; not counted.
 IDispatch* AsDispatch(Object& object);
@@ -41,6 +41,6 @@ class ObjectPool {
 /// stand, so a few of them can make a document of any size.
 bool IsSmall(Object& object);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FUZZ_OBJECT_POOL_H_

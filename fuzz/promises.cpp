@@ -10,7 +10,7 @@
 #include "praxen/factory/deserialization.h"
 #include "praxen/xml/xml_string_writer.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -120,4 +120,4 @@ NothingStays::~NothingStays() {
   if (ModuleInUse()) Broken("nothing keeps the library in use");
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -9,7 +9,7 @@
 #include "praxen/core/error.h"
 #include "praxen/describe/object.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Ends the run as a finding and prints what was broken and by which text.
 [[noreturn]] void Broken(std::string_view promise, std::u16string_view text = {});
@@ -56,6 +56,6 @@ class NothingStays {
   const int32_t before_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FUZZ_PROMISES_H_

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -294,4 +294,4 @@ std::string Spliced(std::string_view xml, std::string_view other, Random& random
   return Inserted(xml, to.Element().all.begin, from.Element().all.In(other));
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-namespace praxen {
+namespace praxen::detail {
 
 struct Span {
   size_t begin = 0, end = 0;
@@ -58,6 +58,6 @@ std::string Mutated(std::string_view xml, Random& random);
 /// The first text with an element of the second; empty when there is none or no place for it.
 std::string Spliced(std::string_view xml, std::string_view other, Random& random);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FUZZ_XML_MUTATION_H_

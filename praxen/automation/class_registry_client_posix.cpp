@@ -11,7 +11,7 @@
 
 #include "praxen/core/ascii.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -120,14 +120,15 @@ HRESULT CreateInstance(REFCLSID clsid, IUnknown* outer, REFIID iid, void** objec
 
 }  // namespace
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 HRESULT CLSIDFromProgID(LPCOLESTR progId, CLSID* clsid) noexcept {
   if (progId == nullptr || clsid == nullptr) return E_INVALIDARG;
   *clsid = GUID_NULL;
-  return praxen::Guarded([&]() -> HRESULT {
+  return praxen::detail::Guarded([&]() -> HRESULT {
     // Every programmatic identifier is ASCII.
-    const auto location = praxen::LookUpProgId(praxen::NarrowAscii(progId).value_or(""));
+    const auto location =
+        praxen::detail::LookUpProgId(praxen::detail::NarrowAscii(progId).value_or(""));
     if (!location) return CO_E_CLASSSTRING;
     *clsid = location->clsid;
     return S_OK;
@@ -139,12 +140,13 @@ HRESULT CoCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD context, REFIID 
   if (object == nullptr) return E_POINTER;
   *object = nullptr;
   if ((context & CLSCTX_INPROC_SERVER) == 0) return REGDB_E_CLASSNOTREG;
-  return praxen::Guarded([&] { return praxen::CreateInstance(clsid, outer, iid, object); });
+  return praxen::detail::Guarded(
+      [&] { return praxen::detail::CreateInstance(clsid, outer, iid, object); });
 }
 
 HRESULT CoFreeUnusedLibraries() noexcept {
-  return praxen::Guarded([]() -> HRESULT {
-    praxen::LoadedServers::Shared().UnloadUnused();
+  return praxen::detail::Guarded([]() -> HRESULT {
+    praxen::detail::LoadedServers::Shared().UnloadUnused();
     return S_OK;
   });
 }

@@ -19,7 +19,7 @@
 #include "praxen/automation/guid.h"
 #include "praxen/core/ascii.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -231,4 +231,4 @@ std::optional<ClassLocation> LookUpClsid(REFCLSID clsid) {
   return Find([&](const Line& line) { return line.clsid == clsid; });
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -10,7 +10,7 @@
 
 #include "praxen/automation/automation.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 // Each line of the file holds a programmatic identifier, a class identifier and the absolute path
 // of the server, separated by tabs, in UTF-8. Other lines are ignored and kept, and of several
@@ -49,6 +49,6 @@ std::optional<ClassLocation> LookUpProgId(std::string_view progId);
 // Finds a class by its identifier.
 std::optional<ClassLocation> LookUpClsid(REFCLSID clsid);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_AUTOMATION_CLASS_REGISTRY_POSIX_H_

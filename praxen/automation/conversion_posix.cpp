@@ -15,7 +15,7 @@
 #include "praxen/automation/variants_posix.h"
 #include "praxen/core/ascii.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -388,7 +388,7 @@ HRESULT ChangeType(VARIANT& target, const VARIANT& source, LCID locale, USHORT f
 
 }  // namespace
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 HRESULT VariantChangeType(VARIANTARG* target, const VARIANTARG* source, USHORT flags,
                           VARTYPE type) noexcept {
@@ -398,5 +398,6 @@ HRESULT VariantChangeType(VARIANTARG* target, const VARIANTARG* source, USHORT f
 HRESULT VariantChangeTypeEx(VARIANTARG* target, const VARIANTARG* source, LCID locale, USHORT flags,
                             VARTYPE type) noexcept {
   if (target == nullptr || source == nullptr) return E_INVALIDARG;
-  return praxen::Guarded([&] { return praxen::ChangeType(*target, *source, locale, flags, type); });
+  return praxen::detail::Guarded(
+      [&] { return praxen::detail::ChangeType(*target, *source, locale, flags, type); });
 }

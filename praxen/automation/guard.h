@@ -7,7 +7,7 @@
 
 #include "praxen/automation/automation.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 // Does the work and returns its result, or the one that stands for the exception it threw.
 template <class Work>
@@ -21,6 +21,6 @@ HRESULT Guarded(Work work) noexcept {
   }
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_AUTOMATION_GUARD_H_

@@ -10,7 +10,7 @@
 #include "praxen/automation/automation.h"
 #include "praxen/core/uuid.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 constexpr GUID ToGuid(const Uuid& uuid) { return std::bit_cast<GUID>(uuid); }
 constexpr Uuid ToUuid(const GUID& guid) { return std::bit_cast<Uuid>(guid); }
@@ -21,6 +21,6 @@ inline std::optional<GUID> TextToGuid(std::string_view text) {
   return uuid ? std::optional(ToGuid(*uuid)) : std::nullopt;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_AUTOMATION_GUID_H_

@@ -8,7 +8,7 @@
 #include <cmath>
 #include <limits>
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -234,4 +234,4 @@ std::string FormatTenThousandths(std::int64_t amount) {
   return fraction.empty() ? text : text + "." + fraction;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

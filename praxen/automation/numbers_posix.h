@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace praxen {
+namespace praxen::detail {
 
 // A decimal number of any length: 0.<digits> times ten to the power of point, the digits without
 // zeros at either end, so that there are none for 0.
@@ -39,6 +39,6 @@ std::string FormatReal(double value, int significantDigits);
 // An amount of ten-thousandths as decimal text without trailing zeros.
 std::string FormatTenThousandths(std::int64_t amount);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_AUTOMATION_NUMBERS_POSIX_H_

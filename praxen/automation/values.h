@@ -14,7 +14,7 @@
 
 #include "praxen/automation/automation.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 static_assert(sizeof(OLECHAR) == sizeof(char16_t));
 
@@ -32,12 +32,17 @@ inline BSTR AllocateBstr(std::u16string_view text) {
   return copy;
 }
 
+}  // namespace praxen::detail
+
+namespace praxen {
+
 // An owned automation text.
 class BStr {
  public:
   BStr() = default;
-  explicit BStr(std::u16string_view text) : text_(AllocateBstr(text)) {}
-  BStr(const BStr& other) : text_(other.text_ == nullptr ? nullptr : AllocateBstr(other.View())) {}
+  explicit BStr(std::u16string_view text) : text_(detail::AllocateBstr(text)) {}
+  BStr(const BStr& other)
+      : text_(other.text_ == nullptr ? nullptr : detail::AllocateBstr(other.View())) {}
   BStr(BStr&& other) noexcept : text_(other.Detach()) {}
   ~BStr() { SysFreeString(text_); }
 
@@ -54,7 +59,7 @@ class BStr {
   }
 
   BSTR Get() const noexcept { return text_; }
-  std::u16string_view View() const noexcept { return ViewOf(text_); }
+  std::u16string_view View() const noexcept { return detail::ViewOf(text_); }
 
   // Hands the text over to the caller.
   BSTR Detach() noexcept { return std::exchange(text_, nullptr); }
@@ -75,7 +80,7 @@ class Variant : public VARIANT {
   Variant() noexcept { VariantInit(this); }
 
   explicit Variant(std::u16string_view text) : Variant() {
-    bstrVal = AllocateBstr(text);
+    bstrVal = detail::AllocateBstr(text);
     vt = VT_BSTR;
   }
 
@@ -143,7 +148,7 @@ class Variant : public VARIANT {
 
   // The text, which stays the variant's; empty when the variant holds none.
   std::u16string_view View() const noexcept {
-    return vt == VT_BSTR ? ViewOf(bstrVal) : std::u16string_view();
+    return vt == VT_BSTR ? detail::ViewOf(bstrVal) : std::u16string_view();
   }
 };
 

@@ -92,7 +92,7 @@ HRESULT Exchange(VARIANT& target, VARIANT copy) {
 
 }  // namespace
 
-namespace praxen {
+namespace praxen::detail {
 
 HRESULT BorrowValue(const VARIANT& source, VARIANT& view) noexcept {
   const VARIANT* from = &source;
@@ -106,7 +106,7 @@ HRESULT BorrowValue(const VARIANT& source, VARIANT& view) noexcept {
   return S_OK;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 void VariantInit(VARIANTARG* variant) noexcept {
   if (variant != nullptr) *variant = {};
@@ -134,6 +134,6 @@ HRESULT VariantCopy(VARIANTARG* target, const VARIANTARG* source) noexcept {
 HRESULT VariantCopyInd(VARIANT* target, const VARIANTARG* source) noexcept {
   if (target == nullptr || source == nullptr) return E_INVALIDARG;
   VARIANT view;
-  const HRESULT result = praxen::BorrowValue(*source, view);
+  const HRESULT result = praxen::detail::BorrowValue(*source, view);
   return FAILED(result) ? result : Exchange(*target, view);
 }

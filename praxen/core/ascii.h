@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The lower case of an ASCII letter; any other character as it is.
 template <class Char>
@@ -46,6 +46,6 @@ inline std::optional<std::string> NarrowAscii(std::u16string_view text) {
   return ascii;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_ASCII_H_

@@ -5,7 +5,7 @@
 
 #include "praxen/core/error.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -30,4 +30,4 @@ void CountModuleObject(int32_t change) noexcept { module_objects += change; }
 
 bool ModuleInUse() noexcept { return module_objects > kSharedModuleObjects; }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The number of live objects of the counted classes: 2 after start-up, the shared writer and the
 /// shared factory.
@@ -18,6 +18,6 @@ void UncountObject() noexcept;
 void CountModuleObject(int32_t change) noexcept;
 bool ModuleInUse() noexcept;
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_COUNTERS_H_

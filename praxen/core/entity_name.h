@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace entity_name {
 
@@ -42,6 +42,6 @@ constexpr std::string_view TypeName() {
   return entity_name::LastName(entity_name::TypeSignature<Entity>());
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_ENTITY_NAME_H_

@@ -6,7 +6,7 @@
 #include "praxen/core/ascii.h"
 #include "praxen/core/entity_name.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -112,11 +112,6 @@ constexpr const EnumerationDescription* kAll[] = {&Description<AutoPosValue>::va
                                                   &Description<TaskSILLevelValue>::value,
                                                   &Description<VisibilityInGraphicsValue>::value};
 
-template <class E>
-E FromText(std::u16string_view text) {
-  return static_cast<E>(DescribeEnumeration<E>().FromText(text));
-}
-
 }  // namespace
 
 std::u16string_view EnumerationDescription::ToText(int32_t value) const noexcept {
@@ -149,6 +144,21 @@ template const EnumerationDescription& DescribeEnumeration<TaskSILLevelValue>() 
 template const EnumerationDescription& DescribeEnumeration<VisibilityInGraphicsValue>() noexcept;
 
 std::span<const EnumerationDescription* const> AllEnumerations() noexcept { return kAll; }
+
+}  // namespace praxen::describe
+
+namespace praxen {
+
+using namespace describe;
+
+namespace {
+
+template <class E>
+E FromText(std::u16string_view text) {
+  return static_cast<E>(DescribeEnumeration<E>().FromText(text));
+}
+
+}  // namespace
 
 std::u16string_view DirectionToText(int32_t value) {
   return DescribeEnumeration<DirectionValue>().ToText(value);

@@ -67,6 +67,10 @@ enum OutputUpdateValue : int32_t { pxUpdateFirst, pxUpdateLast };
 /// Safety integrity level of a task.
 enum TaskSILLevelValue : int32_t { pxTaskSIL0, pxTaskSIL2, pxTaskSIL3 };
 
+}  // namespace praxen
+
+namespace praxen::describe {
+
 /// A constant of an enumeration with its text in the exchange format.
 struct EnumerationConstant {
   std::string_view name;
@@ -96,6 +100,10 @@ const EnumerationDescription& DescribeEnumeration() noexcept;
 
 /// All nine, in the order of their names.
 std::span<const EnumerationDescription* const> AllEnumerations() noexcept;
+
+}  // namespace praxen::describe
+
+namespace praxen {
 
 std::u16string_view DirectionToText(int32_t value);
 std::u16string_view ScopeToText(int32_t value);

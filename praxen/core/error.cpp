@@ -14,6 +14,10 @@ Error Error::At(Place place) const {
   return place_.line != 0 ? *this : Error(number_, source_, description_, place);
 }
 
+}  // namespace praxen
+
+namespace praxen::detail {
+
 Error BufferRangeError(const Text& source, const Text& description) {
   return {ObjectErrorCode(512), source, description};
 }
@@ -53,4 +57,4 @@ Error NestedTooDeep(uint32_t deepest) {
               u" elements; an object may contain itself"};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -38,6 +38,10 @@ class Error : public std::exception {
 /// The code of object error `number`.
 constexpr uint32_t ObjectErrorCode(uint32_t number) { return 0x80040000u + number; }
 
+}  // namespace praxen
+
+namespace praxen::detail {
+
 /// Object error 512 of the text buffer.
 Error BufferRangeError(const Text& source, const Text& description);
 /// Object error 601: a property that writing requires is empty.
@@ -67,6 +71,6 @@ Error MissingObject(const Text& description = u"Object variable not set"_text);
 /// Objects or elements nested deeper than the library follows, as in an object inside itself.
 Error NestedTooDeep(uint32_t deepest);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_ERROR_H_

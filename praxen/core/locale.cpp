@@ -3,7 +3,7 @@
 
 #include <atomic>
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -20,4 +20,4 @@ DecimalSeparatorQuery SetDecimalSeparatorQuery(DecimalSeparatorQuery query) {
   return substitute.exchange(query);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

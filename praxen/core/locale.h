@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The decimal separator of the user's default locale, at most four UTF-16 units; empty when the
 /// system does not report one. Follows changes of the locale and never changes the program's own.
@@ -20,6 +20,6 @@ using DecimalSeparatorQuery = std::u16string (*)();
 /// before. For tests.
 DecimalSeparatorQuery SetDecimalSeparatorQuery(DecimalSeparatorQuery query);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_LOCALE_H_

@@ -9,7 +9,7 @@
 #include "praxen/core/locale.h"
 #include "praxen/core/text.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -59,4 +59,4 @@ std::u16string SystemDecimalSeparator() {
   return answer.separator;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -3,7 +3,7 @@
 
 #include "praxen/core/locale.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 std::u16string SystemDecimalSeparator() {
   char narrow[5];
@@ -14,4 +14,4 @@ std::u16string SystemDecimalSeparator() {
   return {wide, wide + length};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The file of the shared library, or of the program that the library is linked into; empty when
 /// the system does not tell.
@@ -13,6 +13,6 @@ std::filesystem::path ModuleFile();
 /// The folder of that file.
 inline std::filesystem::path ModuleFolder() { return ModuleFile().parent_path(); }
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_MODULE_FOLDER_H_

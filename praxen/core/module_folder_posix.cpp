@@ -3,7 +3,7 @@
 
 #include "praxen/core/module_folder.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 std::filesystem::path ModuleFile() {
   Dl_info info{};
@@ -13,4 +13,4 @@ std::filesystem::path ModuleFile() {
   return error ? std::filesystem::path() : file;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

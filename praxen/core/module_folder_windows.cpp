@@ -5,7 +5,7 @@
 
 #include "praxen/core/module_folder.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 std::filesystem::path ModuleFile() {
   HMODULE module = nullptr;
@@ -18,4 +18,4 @@ std::filesystem::path ModuleFile() {
   return path;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -13,7 +13,7 @@
 #include "praxen/core/error.h"
 #include "praxen/core/locale.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -139,4 +139,4 @@ double XMLTextToDouble(std::u16string_view text) {
   return Parse<double>(ToAscii(plain));
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -8,7 +8,7 @@
 
 #include "praxen/core/text.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The characters of a written number; long enough for every 32-bit integer and every double.
 class NumberText {
@@ -49,6 +49,6 @@ int32_t TextToInteger(std::u16string_view text);
 /// `Overflow` for one beyond a double.
 double XMLTextToDouble(std::u16string_view text);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_NUMBERS_H_

@@ -7,6 +7,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 namespace {
 
 // Whether a line ends with the character at `offset`.

@@ -7,7 +7,7 @@
 
 #include "praxen/core/error.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -134,4 +134,4 @@ Text CStringBuilder::ToString() {
   return storage_.Share(length_);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -9,7 +9,7 @@
 #include "praxen/core/text.h"
 #include "praxen/core/text_buffer.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// A growable buffer of UTF-16 text.
 ///
@@ -94,6 +94,6 @@ class CStringBuilder {
   int32_t growth_step_ = 2048;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_STRING_BUILDER_H_

@@ -13,7 +13,9 @@
 
 namespace praxen {
 
-constinit StaticTextBlock<1> Text::kEmpty{{0, 0}, {0}};
+using namespace detail;
+
+constinit detail::StaticTextBlock<1> Text::kEmpty{{0, 0}, {0}};
 
 namespace {
 

@@ -11,7 +11,9 @@
 #include <string>
 #include <string_view>
 
-namespace praxen {
+#include "praxen/core/namespaces.h"
+
+namespace praxen::detail {
 
 /// The storage behind a text: a head, then the characters and a terminating NUL.
 struct TextBlock {
@@ -26,6 +28,12 @@ struct StaticTextBlock {
   TextBlock head;
   char16_t characters[Size];
 };
+
+class TextBuffer;
+
+}  // namespace praxen::detail
+
+namespace praxen {
 
 /// An immutable UTF-16 text of the size of one pointer: copying shares, assigning replaces.
 ///
@@ -56,7 +64,7 @@ class Text {
 
   /// The text of a block of static storage, shared without being counted.
   template <size_t Size>
-  static Text FromStatic(StaticTextBlock<Size>& block) noexcept {
+  static Text FromStatic(detail::StaticTextBlock<Size>& block) noexcept {
     Text text;
     text.characters_ = block.characters;
     return text;
@@ -106,19 +114,19 @@ class Text {
   }
 
  private:
-  friend class TextBuffer;
+  friend class detail::TextBuffer;
 
-  static StaticTextBlock<1> kEmpty;
+  static detail::StaticTextBlock<1> kEmpty;
 
   static Text Join(std::u16string_view left, std::u16string_view right);
   static char16_t* Allocate(size_t length);
   /// In bytes, with head and NUL.
   static constexpr size_t BlockSize(size_t length) noexcept {
-    return sizeof(TextBlock) + (length + 1) * sizeof(char16_t);
+    return sizeof(detail::TextBlock) + (length + 1) * sizeof(char16_t);
   }
 
-  TextBlock& block() const noexcept {
-    return *(reinterpret_cast<TextBlock*>(const_cast<char16_t*>(characters_)) - 1);
+  detail::TextBlock& block() const noexcept {
+    return *(reinterpret_cast<detail::TextBlock*>(const_cast<char16_t*>(characters_)) - 1);
   }
   std::atomic_ref<uint32_t> references() const noexcept {
     return std::atomic_ref<uint32_t>(block().references);
@@ -135,6 +143,10 @@ class Text {
 
   const char16_t* characters_;
 };
+
+}  // namespace praxen
+
+namespace praxen::detail {
 
 /// A string literal as a template argument.
 template <size_t Size>
@@ -156,10 +168,14 @@ struct StaticText {
   static inline constinit auto block = Make(Literal);
 };
 
+}  // namespace praxen::detail
+
+namespace praxen {
+
 /// A text of static storage: `u"retain"_text` costs no allocation.
-template <TextLiteral Literal>
+template <detail::TextLiteral Literal>
 Text operator""_text() noexcept {
-  return Text::FromStatic(StaticText<Literal>::block);
+  return Text::FromStatic(detail::StaticText<Literal>::block);
 }
 
 /// Prints the text as UTF-8.

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <utility>
 
-namespace praxen {
+namespace praxen::detail {
 
 void TextBuffer::Reserve(size_t characters, size_t kept) {
   if (capacity_ == 0 || IsShared()) {
@@ -32,4 +32,4 @@ Text TextBuffer::Share(size_t length) {
   return block_;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

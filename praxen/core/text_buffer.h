@@ -6,7 +6,7 @@
 
 #include "praxen/core/text.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Room for characters that are still being written, and that become a text without being copied.
 class TextBuffer {
@@ -30,6 +30,6 @@ class TextBuffer {
   size_t capacity_ = 0;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_TEXT_BUFFER_H_

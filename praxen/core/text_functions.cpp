@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string>
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -41,4 +41,4 @@ std::u16string_view TextAfterFirstDot(std::u16string_view text) {
   return dot == std::u16string_view::npos ? std::u16string_view() : text.substr(dot + 1);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -6,7 +6,7 @@
 
 #include "praxen/core/text.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The text with every "&lt;", then every "&gt;", then every "&amp;" replaced by its character.
 Text UnescapeText(const Text& text);
@@ -16,6 +16,6 @@ std::u16string_view TextBeforeFirstDot(std::u16string_view text);
 /// The part after the first "."; the empty text when it has none.
 std::u16string_view TextAfterFirstDot(std::u16string_view text);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_TEXT_FUNCTIONS_H_

@@ -1,7 +1,7 @@
 // The text form of identifiers.
 #include "praxen/core/uuid.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -60,4 +60,4 @@ std::optional<Uuid> TextToUuid(std::string_view text) { return Parse(text); }
 
 std::optional<Uuid> TextToUuid(std::u16string_view text) { return Parse(text); }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// An identifier of 128 bits in the fields of RFC 4122, which lie as those of an automation
 /// identifier do.
@@ -138,6 +138,6 @@ std::string UuidToText(const Uuid& uuid);
 std::optional<Uuid> TextToUuid(std::string_view text);
 std::optional<Uuid> TextToUuid(std::u16string_view text);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_UUID_H_

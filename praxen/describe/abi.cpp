@@ -9,7 +9,7 @@
 #include "praxen/describe/identifiers.h"
 #include "praxen/describe/slots.h"
 
-namespace praxen::abi {
+namespace praxen::detail::abi {
 
 static_assert(sizeof(Variant) == sizeof(VARIANT) && alignof(Variant) == alignof(VARIANT));
 
@@ -134,4 +134,4 @@ void StoreKind(Object* object, const KindInterface* kind, Interface** out) {
   HandOut(foreign == nullptr ? const_cast<KindInterface*>(kind) : foreign->kindOfClient(), out);
 }
 
-}  // namespace praxen::abi
+}  // namespace praxen::detail::abi

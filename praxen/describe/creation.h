@@ -10,7 +10,7 @@
 #include "praxen/describe/object.h"
 #include "praxen/describe/slots.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// A property that a creating operation sets from a text passed by reference.
 template <auto Pointer>
@@ -119,6 +119,6 @@ struct Addition<List, PreparedCreation<Class, Preparation, Steps...>> {
   }
 };
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_CREATION_H_

@@ -7,7 +7,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/describe/dispatch.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 template <class Class>
 concept HasLayout = requires {
@@ -60,6 +60,6 @@ const ClassDescription& Describe() {
   return description;
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_DEFINE_H_

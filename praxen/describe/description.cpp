@@ -5,7 +5,7 @@
 
 #include "praxen/core/ascii.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -49,4 +49,4 @@ const Member* ClassDescription::FindMember(int32_t id) const noexcept {
   return kind == nullptr ? nullptr : kind->FindMember(id);
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe

@@ -11,7 +11,7 @@
 #include "praxen/describe/member.h"
 #include "praxen/describe/object.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// The identifier of a name, given in parts, in the namespace of all identifiers of the library.
 template <class... Parts>
@@ -69,6 +69,10 @@ class Described : public Base {
   explicit Described(Object::Counting counting) : Base(Describe<Class>(), counting) {}
 };
 
+}  // namespace praxen::describe
+
+namespace praxen {
+
 /// The base of the classes that write themselves as a document.
 class SerializableObject : public Object {
  public:
@@ -79,6 +83,11 @@ class SerializableObject : public Object {
   using Object::Object;
 };
 
+}  // namespace praxen
+
+namespace praxen::describe {
+
+/// Ties a class that writes itself as a document to its description.
 template <class Class>
 using Serializable = Described<Class, SerializableObject>;
 
@@ -86,6 +95,6 @@ inline Member serialize() {
   return method<&SerializableObject::Serialize>("Returns the object as a complete XML document.");
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_DESCRIPTION_H_

@@ -11,7 +11,7 @@
 #include "praxen/describe/identifiers.h"
 #include "praxen/describe/tear_off.h"
 
-namespace praxen::dispatch {
+namespace praxen::detail::dispatch {
 
 namespace {
 
@@ -222,4 +222,4 @@ HRESULT Invoke(Object& object, DISPID id, WORD flags, DISPPARAMS* parameters, VA
   }
 }
 
-}  // namespace praxen::dispatch
+}  // namespace praxen::detail::dispatch

@@ -9,9 +9,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/describe/slots.h"
 
-namespace praxen {
-
-namespace dispatch {
+namespace praxen::detail::dispatch {
 
 HRESULT QueryInterface(Object& object, REFIID iid, void** out) noexcept;
 HRESULT GetTypeInfoCount(UINT* count) noexcept;
@@ -58,11 +56,13 @@ struct Head {
   }
 };
 
-}  // namespace dispatch
+}  // namespace praxen::detail::dispatch
+
+namespace praxen::describe {
 
 template <class From>
 std::span<const void* const> DispatchHead() {
-  using Head = dispatch::Head<From>;
+  using Head = detail::dispatch::Head<From>;
   static const std::array<const void*, 7> functions{
       reinterpret_cast<const void*>(&Head::QueryInterface),
       reinterpret_cast<const void*>(&Head::AddRef),
@@ -74,6 +74,6 @@ std::span<const void* const> DispatchHead() {
   return functions;
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_DISPATCH_H_

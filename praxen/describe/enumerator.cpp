@@ -8,7 +8,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/describe/dispatch.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -76,11 +76,17 @@ const ClassDescription& Describe<Enumerator>() {
   return description;
 }
 
+}  // namespace praxen::describe
+
+namespace praxen {
+
 Enumerator::Enumerator(const Ref<Object>& list)
-    : Object(Describe<Enumerator>(), Counting::No), list_(list), elements_(*list->elements()) {}
+    : Object(describe::Describe<Enumerator>(), Counting::No),
+      list_(list),
+      elements_(*list->elements()) {}
 
 Enumerator::Enumerator(const Enumerator& other)
-    : Object(Describe<Enumerator>(), Counting::No),
+    : Object(describe::Describe<Enumerator>(), Counting::No),
       list_(other.list_),
       elements_(other.elements_),
       next_(other.next_) {}

@@ -32,9 +32,13 @@ class Enumerator final : public Object {
   size_t next_ = 0;
 };
 
+}  // namespace praxen
+
+namespace praxen::describe {
+
 template <>
 const ClassDescription& Describe<Enumerator>();
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_ENUMERATOR_H_

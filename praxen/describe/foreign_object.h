@@ -4,7 +4,7 @@
 
 #include "praxen/describe/object.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// A second base of the adapters that hold a client's implementation of a kind.
 class ForeignObject {
@@ -16,6 +16,6 @@ class ForeignObject {
   virtual Interface* dispatchOfClient() const noexcept = 0;
 };
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_FOREIGN_OBJECT_H_

@@ -1,7 +1,7 @@
 // Identifiers made from names.
 #include "praxen/describe/identifiers.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -26,4 +26,4 @@ std::string InterfaceName(const ClassDescription& description) {
 
 const GUID& OwnObjectId() noexcept { return kOwnObjectId; }
 
-}  // namespace praxen
+}  // namespace praxen::describe

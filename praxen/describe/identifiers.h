@@ -8,7 +8,7 @@
 #include "praxen/automation/guid.h"
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 inline constexpr std::string_view kTypeLibraryVersion = "3.16";
 inline constexpr std::string_view kTypeLibraryHelp = "PraxenHelper 3.16";
@@ -25,6 +25,6 @@ std::string InterfaceName(const ClassDescription& description);
 /// counts by its address, which another copy of the library in the same process does not share.
 const GUID& OwnObjectId() noexcept;
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_IDENTIFIERS_H_

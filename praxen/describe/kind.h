@@ -5,7 +5,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/describe/slots.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// Gives a kind its second interface. Objects of a kind itself, and of classes that clients derive
 /// from it, are not counted.
@@ -25,6 +25,6 @@ class KindBase : public Base, public KindInterface {
   }
 };
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_KIND_H_

@@ -17,10 +17,7 @@
 #include "praxen/describe/value_type.h"
 #include "praxen/xml/xml_name.h"
 
-namespace praxen {
-
-class XMLStringWriter;
-class XmlNode;
+namespace praxen::describe {
 
 /// When an attribute is written. All are read.
 enum class Rule : uint8_t {
@@ -353,6 +350,6 @@ Choice otherwise() {
   return made;
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_LAYOUT_H_

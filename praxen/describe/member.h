@@ -12,7 +12,7 @@
 #include "praxen/describe/slots.h"
 #include "praxen/describe/value_type.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// Identifiers that automation gives a meaning of their own.
 inline constexpr int32_t kDefaultMemberId = 0;
@@ -165,6 +165,6 @@ inline Member WithId(Member member, int32_t id) {
   return member;
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_MEMBER_H_

@@ -7,6 +7,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 Object::Object(const ClassDescription& description, Counting counting) : counting_(counting) {
   table = description.interfaceTable();
   if (counting == Counting::Yes) CountObject();
@@ -36,8 +38,12 @@ void Object::Destroy() noexcept {
   destroying = false;
 }
 
+}  // namespace praxen
+
+namespace praxen::detail {
+
 void ThrowMissingObject() { throw MissingObject(); }
 
 void ThrowTypeMismatch() { throw TypeMismatch(); }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -12,11 +12,22 @@
 
 namespace praxen {
 
-struct ClassDescription;
-class XMLStringWriter;
-class XmlNode;
 template <class T>
 class Ref;
+
+}  // namespace praxen
+
+namespace praxen::describe {
+
+struct ClassDescription;
+struct StorageAccess;
+
+}  // namespace praxen::describe
+
+namespace praxen::detail {
+
+class XMLStringWriter;
+class XmlNode;
 
 /// What an automation client's interface pointer points to: a table of functions in slot order.
 /// The entry before the first is the description of the class.
@@ -24,12 +35,19 @@ struct Interface {
   const void* const* table = nullptr;
 };
 
+[[noreturn]] void ThrowMissingObject();
+[[noreturn]] void ThrowTypeMismatch();
+
+}  // namespace praxen::detail
+
+namespace praxen {
+
 /// The base of every object of the model.
 ///
 /// Objects are created with `New` and live as long as a `Ref` or an automation client refers to
 /// them; the count is not synchronised, so an object and all that it contains belong to one thread.
 /// An object is its own automation object: its `Interface` base is its default interface.
-class Object : public Interface {
+class Object : public detail::Interface {
  public:
   Object(const Object&) = delete;
   Object& operator=(const Object&) = delete;
@@ -42,19 +60,19 @@ class Object : public Interface {
   uint32_t references() const noexcept { return references_; }
 
   /// Published members and XML layout of the object's class.
-  const ClassDescription& description() const noexcept {
-    return *static_cast<const ClassDescription*>(table[-1]);
+  const describe::ClassDescription& description() const noexcept {
+    return *static_cast<const describe::ClassDescription*>(table[-1]);
   }
 
   /// Writes the object's element; raises `RequiredFieldsEmpty` before anything of it is written.
-  void WriteXML(XMLStringWriter& writer);
+  void WriteXML(detail::XMLStringWriter& writer);
   /// Fills a fresh object from its element.
-  void ReadXML(const XmlNode& node);
+  void ReadXML(const detail::XmlNode& node);
 
   /// The elements of a list; null for an object that is no list.
   virtual const std::vector<Ref<Object>>* elements() const noexcept { return nullptr; }
   /// The second interface of an object that implements a kind; null for the others.
-  virtual Interface* kindInterface() noexcept { return nullptr; }
+  virtual detail::Interface* kindInterface() noexcept { return nullptr; }
   /// Appends to a list; the element is of a class that the list's layout names.
   virtual void Append(const Ref<Object>&) {}
 
@@ -65,7 +83,7 @@ class Object : public Interface {
   /// Whether the library-wide object counter counts the object.
   enum class Counting : bool { No, Yes };
 
-  explicit Object(const ClassDescription& description, Counting counting = Counting::Yes);
+  explicit Object(const describe::ClassDescription& description, Counting counting = Counting::Yes);
 
  private:
   void Destroy() noexcept;
@@ -73,9 +91,6 @@ class Object : public Interface {
   uint32_t references_ = 0;
   const Counting counting_;
 };
-
-[[noreturn]] void ThrowMissingObject();
-[[noreturn]] void ThrowTypeMismatch();
 
 /// A shared reference to an object, or to none.
 ///
@@ -106,7 +121,7 @@ class Ref {
   T* operator->() const { return &**this; }
   T& operator*() const {
     if (object_ == nullptr) [[unlikely]]
-      ThrowMissingObject();
+      detail::ThrowMissingObject();
     return *object_;
   }
   explicit operator bool() const noexcept { return object_ != nullptr; }
@@ -143,7 +158,7 @@ class ReadOnly {
   }
 
  private:
-  friend struct StorageAccess;
+  friend struct describe::StorageAccess;
   ReadOnly& operator=(const ReadOnly&) = default;
 
   T value_{};

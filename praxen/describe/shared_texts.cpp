@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -31,4 +31,4 @@ void SharedTexts::Clear() noexcept {
   for (Text& text : texts_) text = Text();
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe

@@ -8,7 +8,7 @@
 
 #include "praxen/core/text.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// The short texts met last, so that the names of types and tasks, which repeat all over a
 /// document, are stored once. Only a text that equals an earlier one is shared; which ones are
@@ -28,6 +28,6 @@ class SharedTexts {
   std::array<Text, kPlaces> texts_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_SHARED_TEXTS_H_

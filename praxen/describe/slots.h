@@ -11,15 +11,17 @@
 #include "praxen/describe/object.h"
 #include "praxen/describe/value_type.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The second interface of an object that implements a kind.
 struct KindInterface : Interface {};
 
+}  // namespace praxen::detail
+
 /// How values cross an interface table. The types are those of automation on 64-bit systems,
 /// spelled without its headers: HRESULT, BSTR, VARIANT_BOOL, LONG, double, an interface pointer and
 /// a VARIANT.
-namespace abi {
+namespace praxen::detail::abi {
 
 using Result = int32_t;
 using String = char16_t*;
@@ -131,7 +133,9 @@ void Store(const Ref<T>& value, Interface** out) {
   }
 }
 
-}  // namespace abi
+}  // namespace praxen::detail::abi
+
+namespace praxen::describe {
 
 /// Gives the classes of the library access to the storage of read-only properties.
 struct StorageAccess {
@@ -269,6 +273,6 @@ struct OperationSlots<Operation, ByReference, R (*)(C&, A...)> {
   using Slots = With<std::index_sequence_for<A...>, std::remove_cvref_t<A>...>;
 };
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_SLOTS_H_

@@ -3,7 +3,7 @@
 
 #include "praxen/describe/identifiers.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -27,4 +27,4 @@ HRESULT MakeTearOff(Object& object, REFIID iid, void** out) {
   return S_OK;
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe

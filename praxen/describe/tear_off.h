@@ -5,7 +5,7 @@
 #include "praxen/automation/automation.h"
 #include "praxen/describe/dispatch.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// An interface that needs no place in the object. It is counted on its own, so that the object
 /// needs to know nothing of it; any other interface is asked of the object.
@@ -45,6 +45,6 @@ HRESULT MakeTearOff(Object& object, REFIID iid, void** out);
 /// system knows type libraries.
 HRESULT MakeClassInformation(Object& object, REFIID iid, void** out);
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_TEAR_OFF_H_

@@ -2,9 +2,7 @@
 #include "praxen/describe/dispatch.h"
 #include "praxen/describe/tear_off.h"
 
-namespace praxen {
-
-namespace dispatch {
+namespace praxen::detail::dispatch {
 
 HRESULT GetTypeInfoCount(UINT* count) noexcept {
   if (count == nullptr) return E_POINTER;
@@ -18,8 +16,10 @@ HRESULT GetTypeInfo(const ClassDescription&, UINT, ITypeInfo** out) noexcept {
   return DISP_E_BADINDEX;
 }
 
-}  // namespace dispatch
+}  // namespace praxen::detail::dispatch
+
+namespace praxen::describe {
 
 HRESULT MakeClassInformation(Object&, REFIID, void**) { return E_NOINTERFACE; }
 
-}  // namespace praxen
+}  // namespace praxen::describe

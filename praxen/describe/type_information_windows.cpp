@@ -8,7 +8,7 @@
 #include "praxen/describe/dispatch.h"
 #include "praxen/describe/identifiers.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -52,7 +52,9 @@ class ClassInformation final : public TearOff<IProvideClassInfo2> {
 
 }  // namespace
 
-namespace dispatch {
+}  // namespace praxen::describe
+
+namespace praxen::detail::dispatch {
 
 HRESULT GetTypeInfoCount(UINT* count) noexcept {
   if (count == nullptr) return E_POINTER;
@@ -67,7 +69,9 @@ HRESULT GetTypeInfo(const ClassDescription& description, UINT index, ITypeInfo**
   return Guarded([&] { return GetTypeInformation(InterfaceId(description), out); });
 }
 
-}  // namespace dispatch
+}  // namespace praxen::detail::dispatch
+
+namespace praxen::describe {
 
 HRESULT MakeClassInformation(Object& object, REFIID iid, void** out) {
   if (iid != IID_IProvideClassInfo && iid != IID_IProvideClassInfo2) return E_NOINTERFACE;
@@ -75,4 +79,4 @@ HRESULT MakeClassInformation(Object& object, REFIID iid, void** out) {
   return S_OK;
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe

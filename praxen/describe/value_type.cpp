@@ -7,7 +7,7 @@
 #include "praxen/core/error.h"
 #include "praxen/describe/slots.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -61,10 +61,6 @@ IUnknown* InterfaceOf(const VARIANT& argument) {
 }
 
 }  // namespace
-
-AnyValue::AnyValue(int32_t number) : text_(TextOf(Variant(number))) {}
-AnyValue::AnyValue(double number) : text_(TextOf(Variant(number))) {}
-AnyValue::AnyValue(bool value) : text_(TextOf(Variant(value))) {}
 
 namespace value_type {
 
@@ -134,4 +130,14 @@ void ThrowWrongClass(const tagVARIANT& variant) {
 }
 
 }  // namespace value_type
+}  // namespace praxen::describe
+
+namespace praxen {
+
+using describe::TextOf;
+
+AnyValue::AnyValue(int32_t number) : text_(TextOf(Variant(number))) {}
+AnyValue::AnyValue(double number) : text_(TextOf(Variant(number))) {}
+AnyValue::AnyValue(bool value) : text_(TextOf(Variant(value))) {}
+
 }  // namespace praxen

@@ -13,12 +13,7 @@ struct tagVARIANT;
 
 namespace praxen {
 
-struct ClassDescription;
 class Enumerator;
-
-/// The description of a class; instantiated once a class, in the source file of its family.
-template <class Class>
-const ClassDescription& Describe();
 
 /// Any automation value where a text is wanted: numbers and booleans become their texts.
 class AnyValue {
@@ -37,6 +32,16 @@ class AnyValue {
  private:
   Text text_;
 };
+
+}  // namespace praxen
+
+namespace praxen::describe {
+
+struct ClassDescription;
+
+/// The description of a class; instantiated once a class, in the source file of its family.
+template <class Class>
+const ClassDescription& Describe();
 
 enum class ValueKind : uint8_t {
   None,
@@ -170,6 +175,6 @@ ValueType ValueTypeOf() {
   return type;
 }
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_VALUE_TYPE_H_

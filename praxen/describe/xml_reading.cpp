@@ -6,7 +6,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/describe/shared_texts.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -128,6 +128,8 @@ void ReadElement(Object& object, const Layout& layout, const XmlNode& node) {
   if (!layout.elements.empty()) ReadItems(object, layout, cursor);
 }
 
-void Object::ReadXML(const XmlNode& node) { ReadElement(*this, description().layout(), node); }
+}  // namespace praxen::describe
 
-}  // namespace praxen
+void praxen::Object::ReadXML(const detail::XmlNode& node) {
+  describe::ReadElement(*this, description().layout(), node);
+}

@@ -9,7 +9,7 @@
 #include "praxen/describe/object.h"
 #include "praxen/xml/xml_document.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// Fills a fresh object of that layout from its element.
 void ReadElement(Object& object, const Layout& layout, const XmlNode& node);
@@ -28,6 +28,6 @@ bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name);
 /// when the node has another name.
 std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name);
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_XML_READING_H_

@@ -9,7 +9,7 @@
 #include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 namespace {
 
@@ -197,6 +197,12 @@ Layout CompleteLayout(Layout layout, std::u16string element, Object& created) {
   for (Choice& choice : layout.elements) choice.xmlName = InternXmlName(choice.elementName());
   return layout;
 }
+
+}  // namespace praxen::describe
+
+namespace praxen {
+
+using namespace detail;
 
 void Object::WriteXML(XMLStringWriter& writer) {
   // A client's own implementation of a kind has no element.

@@ -7,7 +7,7 @@
 #include "praxen/describe/object.h"
 #include "praxen/xml/xml_string_writer.h"
 
-namespace praxen {
+namespace praxen::describe {
 
 /// Writes the element of an object whose class has that layout.
 void WriteElement(Object& object, const Layout& layout, XMLStringWriter& writer);
@@ -18,6 +18,6 @@ void WriteStartTag(Object& object, std::u16string_view element, XMLStringWriter&
 /// The value of an attribute as it is written.
 Text AttributeText(const Attribute& attribute, const void* value);
 
-}  // namespace praxen
+}  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_XML_WRITING_H_

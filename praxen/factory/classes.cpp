@@ -9,7 +9,7 @@
 #include "praxen/model/maintenance.h"
 #include "praxen/model/model.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -139,4 +139,4 @@ const ClassDescription* FindClassById(const Uuid& id) {
   return nullptr;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -9,7 +9,7 @@
 #include "praxen/core/uuid.h"
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Every published class in the order of its name, the three kind interfaces that cannot be created
 /// included.
@@ -21,6 +21,6 @@ const ClassDescription* FindClass(std::u16string_view name);
 /// The published class of that identifier; null when there is none.
 const ClassDescription* FindClassById(const Uuid& id);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FACTORY_CLASSES_H_

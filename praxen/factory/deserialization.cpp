@@ -7,7 +7,7 @@
 #include "praxen/factory/reading_frame.h"
 #include "praxen/model/model.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr) {
   const LoadedDocument document(XMLStr, description.layout().element);
@@ -30,4 +30,4 @@ Ref<ICodeBlock> CodeBlockDeserialization::operator()(const Text& XMLStr) const {
   throw WrongRootElement().At(document.root().place());
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -9,7 +9,7 @@
 #include "praxen/describe/object.h"
 #include "praxen/model/pou/code_block.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Creates an object of a described class and reads it from a document whose root is its element.
 Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr);
@@ -39,6 +39,6 @@ struct CodeBlockDeserialization {
   static std::string_view Help() { return "Reads a code block of any language."; }
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FACTORY_DESERIALIZATION_H_

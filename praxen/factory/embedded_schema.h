@@ -4,11 +4,11 @@
 
 #include <string_view>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The bytes of the shipped "PraxenSchema3_0.xsd".
 std::string_view EmbeddedSchema();
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FACTORY_EMBEDDED_SCHEMA_H_

@@ -6,7 +6,7 @@
 #include "praxen/xml/xml_document.h"
 #include "praxen/xml/xml_string_writer.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -30,4 +30,4 @@ ObjectFactory& SharedFactory() { return *Shared().factory; }
 
 XmlDocument& ReaderDocument() { return Shared().readerDocument; }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -5,6 +5,11 @@
 namespace praxen {
 
 class ObjectFactory;
+
+}  // namespace praxen
+
+namespace praxen::detail {
+
 class XmlDocument;
 
 /// The factory that counts as a live object from start-up on.
@@ -13,6 +18,6 @@ ObjectFactory& SharedFactory();
 /// The document, with the schema attached, through which everything is read.
 XmlDocument& ReaderDocument();
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FACTORY_LIBRARY_H_

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 namespace {
 
 template <const auto& Operation>
@@ -148,6 +150,6 @@ Members ObjectFactory::members() {
   };
 }
 
-template const ClassDescription& Describe<ObjectFactory>();
+template const ClassDescription& describe::Describe<ObjectFactory>();
 
 }  // namespace praxen

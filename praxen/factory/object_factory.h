@@ -10,7 +10,7 @@ namespace praxen {
 /// Every `New…` operation creates an object of the class it names and sets the properties that its
 /// form lists from its arguments; every `Deserialize…` operation reads a document of its class. The
 /// operations are callable constants: `ObjectFactory::NewVariable(u"Level", u"real")`.
-class ObjectFactory final : public Described<ObjectFactory> {
+class ObjectFactory final : public describe::Described<ObjectFactory> {
  public:
   static constexpr DataType::Form NewDataType{};
   static constexpr DataType::LongForm NewDataType1{};
@@ -31,7 +31,7 @@ class ObjectFactory final : public Described<ObjectFactory> {
   static constexpr Diagram::LongForm NewDiagram1{};
   static constexpr ControlModule::Form NewControlModule{};
   static constexpr ControlModule::LongForm NewControlModule1{};
-  static constexpr Creation<ControlModules> NewControlModules{};
+  static constexpr describe::Creation<ControlModules> NewControlModules{};
   static constexpr SingleControlModuleType::Form NewSingleControlModuleType{};
   static constexpr SingleControlModuleType::LongForm NewSingleControlModuleType1{};
   static constexpr SingleControlModuleInst::Form NewSingleControlModuleInst{};
@@ -40,13 +40,13 @@ class ObjectFactory final : public Described<ObjectFactory> {
   static constexpr Task::LongForm NewTask1{};
   static constexpr ConnectedApplication::Form NewConnectedApplication{};
   static constexpr ConnectedApplication::LongForm NewConnectedApplication1{};
-  static constexpr Creation<ConnectedApplications> NewConnectedApplications{};
+  static constexpr describe::Creation<ConnectedApplications> NewConnectedApplications{};
   static constexpr ConnectedHWLibrary::Form NewConnectedHWLibrary{};
   static constexpr ConnectedHWLibrary::LongForm NewConnectedHWLibrary1{};
-  static constexpr Creation<ConnectedHWLibraries> NewConnectedHWLibraries{};
+  static constexpr describe::Creation<ConnectedHWLibraries> NewConnectedHWLibraries{};
   static constexpr ConnectedLibrary::Form NewConnectedLibrary{};
   static constexpr ConnectedLibrary::LongForm NewConnectedLibrary1{};
-  static constexpr Creation<ConnectedLibraries> NewConnectedLibraries{};
+  static constexpr describe::Creation<ConnectedLibraries> NewConnectedLibraries{};
   static constexpr HWUnit::Form NewHWUnit{};
   static constexpr HWUnit::LongForm NewHWUnit1{};
   static constexpr HWUnit::FullForm NewHWUnit2{};
@@ -102,52 +102,56 @@ class ObjectFactory final : public Described<ObjectFactory> {
   static constexpr VANamedVariable::LongForm NewVANamedVariable1{};
   static constexpr VAAddressedVariable::Form NewVAAddressedVariable{};
   static constexpr VAAddressedVariable::LongForm NewVAAddressedVariable1{};
-  static constexpr Creation<AccessVariables> NewAccessVariables{};
-  static constexpr Creation<ProjectConstants> NewProjectConstants{};
+  static constexpr describe::Creation<AccessVariables> NewAccessVariables{};
+  static constexpr describe::Creation<ProjectConstants> NewProjectConstants{};
   static constexpr ProjectConstant::Form NewProjectConstant{};
   static constexpr ApplicationProperties::Form NewApplicationProperties{};
-  static constexpr Creation<ExecutionOrder> NewExecutionOrder{};
+  static constexpr describe::Creation<ExecutionOrder> NewExecutionOrder{};
   static constexpr ExecutionInstance::Form NewExecutionInstance{};
 
-  static constexpr Deserialization<ExternalVariable> DeserializeExternalVariable{};
-  static constexpr Deserialization<GlobalVariable> DeserializeGlobalVariable{};
-  static constexpr Deserialization<Variable> DeserializeVariable{};
-  static constexpr Deserialization<CommVariable> DeserializeCommVariable{};
-  static constexpr Deserialization<Signal> DeserializeSignal{};
-  static constexpr Deserialization<CMParameter> DeserializeCMParameter{};
-  static constexpr Deserialization<ExtensibleParameter> DeserializeExtensibleParameter{};
-  static constexpr Deserialization<Parameter> DeserializeParameter{};
-  static constexpr Deserialization<DataType> DeserializeDataType{};
-  static constexpr Deserialization<ApplicationVariables> DeserializeApplicationVariables{};
-  static constexpr CodeBlockDeserialization DeserializeCodeBlock{};
-  static constexpr Deserialization<CMConnection> DeserializeCMConnection{};
-  static constexpr Deserialization<FunctionBlockType> DeserializeFunctionBlockType{};
-  static constexpr Deserialization<FunctionBlock> DeserializeFunctionBlock{};
-  static constexpr Deserialization<DiagramType> DeserializeDiagramType{};
-  static constexpr Deserialization<DiagramInstance> DeserializeDiagramInstance{};
-  static constexpr Deserialization<ControlModuleType> DeserializeControlModuleType{};
-  static constexpr Deserialization<Program> DeserializeProgram{};
-  static constexpr Deserialization<Diagram> DeserializeDiagram{};
-  static constexpr Deserialization<ControlModule> DeserializeControlModule{};
-  static constexpr Deserialization<ControlModules> DeserializeControlModules{};
-  static constexpr Deserialization<SingleControlModuleType> DeserializeSingleControlModuleType{};
-  static constexpr Deserialization<SingleControlModuleInst> DeserializeSingleControlModuleInst{};
-  static constexpr Deserialization<Task> DeserializeTask{};
-  static constexpr Deserialization<ExecutionOrder> DeserializeExecutionOrder{};
-  static constexpr Deserialization<ConnectedApplications> DeserializeConnectedApplications{};
-  static constexpr Deserialization<ConnectedLibraries> DeserializeConnectedLibraries{};
-  static constexpr Deserialization<ConnectedHWLibraries> DeserializeConnectedHWLibraries{};
-  static constexpr Deserialization<ApplicationProperties> DeserializeApplicationProperties{};
-  static constexpr Deserialization<HWUnit> DeserializeHWUnit{};
-  static constexpr Deserialization<ProjectConstants> DeserializeProjectConstants{};
-  static constexpr Deserialization<AccessVariables> DeserializeAccessVariables{};
-  static constexpr Deserialization<MessageBucket> DeserializeMessageBucket{};
+  static constexpr detail::Deserialization<ExternalVariable> DeserializeExternalVariable{};
+  static constexpr detail::Deserialization<GlobalVariable> DeserializeGlobalVariable{};
+  static constexpr detail::Deserialization<Variable> DeserializeVariable{};
+  static constexpr detail::Deserialization<CommVariable> DeserializeCommVariable{};
+  static constexpr detail::Deserialization<Signal> DeserializeSignal{};
+  static constexpr detail::Deserialization<CMParameter> DeserializeCMParameter{};
+  static constexpr detail::Deserialization<ExtensibleParameter> DeserializeExtensibleParameter{};
+  static constexpr detail::Deserialization<Parameter> DeserializeParameter{};
+  static constexpr detail::Deserialization<DataType> DeserializeDataType{};
+  static constexpr detail::Deserialization<ApplicationVariables> DeserializeApplicationVariables{};
+  static constexpr detail::CodeBlockDeserialization DeserializeCodeBlock{};
+  static constexpr detail::Deserialization<CMConnection> DeserializeCMConnection{};
+  static constexpr detail::Deserialization<FunctionBlockType> DeserializeFunctionBlockType{};
+  static constexpr detail::Deserialization<FunctionBlock> DeserializeFunctionBlock{};
+  static constexpr detail::Deserialization<DiagramType> DeserializeDiagramType{};
+  static constexpr detail::Deserialization<DiagramInstance> DeserializeDiagramInstance{};
+  static constexpr detail::Deserialization<ControlModuleType> DeserializeControlModuleType{};
+  static constexpr detail::Deserialization<Program> DeserializeProgram{};
+  static constexpr detail::Deserialization<Diagram> DeserializeDiagram{};
+  static constexpr detail::Deserialization<ControlModule> DeserializeControlModule{};
+  static constexpr detail::Deserialization<ControlModules> DeserializeControlModules{};
+  static constexpr detail::Deserialization<SingleControlModuleType>
+      DeserializeSingleControlModuleType{};
+  static constexpr detail::Deserialization<SingleControlModuleInst>
+      DeserializeSingleControlModuleInst{};
+  static constexpr detail::Deserialization<Task> DeserializeTask{};
+  static constexpr detail::Deserialization<ExecutionOrder> DeserializeExecutionOrder{};
+  static constexpr detail::Deserialization<ConnectedApplications>
+      DeserializeConnectedApplications{};
+  static constexpr detail::Deserialization<ConnectedLibraries> DeserializeConnectedLibraries{};
+  static constexpr detail::Deserialization<ConnectedHWLibraries> DeserializeConnectedHWLibraries{};
+  static constexpr detail::Deserialization<ApplicationProperties>
+      DeserializeApplicationProperties{};
+  static constexpr detail::Deserialization<HWUnit> DeserializeHWUnit{};
+  static constexpr detail::Deserialization<ProjectConstants> DeserializeProjectConstants{};
+  static constexpr detail::Deserialization<AccessVariables> DeserializeAccessVariables{};
+  static constexpr detail::Deserialization<MessageBucket> DeserializeMessageBucket{};
 
   static constexpr std::string_view kHelp = "Creates objects and reads them from XML.";
-  static Members members();
+  static describe::Members members();
 };
 
-extern template const ClassDescription& Describe<ObjectFactory>();
+extern template const describe::ClassDescription& describe::Describe<ObjectFactory>();
 
 }  // namespace praxen
 

@@ -12,7 +12,7 @@
 #include "praxen/factory/embedded_schema.h"
 #include "praxen/factory/library.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -73,4 +73,4 @@ bool LoadedDocument::IsRoot(std::u16string_view name) const {
   throw InvalidXml(error.reason, error.place);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

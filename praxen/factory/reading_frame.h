@@ -9,7 +9,7 @@
 #include "praxen/core/text.h"
 #include "praxen/xml/xml_document.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Finds the place of the schema: "PraxenSchema3_0.xsd" in the current folder, beside the library
 /// or in the installed data folder, else the copy in the library. What is returned reads it.
@@ -39,6 +39,6 @@ class LoadedDocument {
   XmlDocument& document_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_FACTORY_READING_FRAME_H_

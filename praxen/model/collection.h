@@ -37,7 +37,7 @@ template <HasKey Element>
 Text KeyOf(const Element& element) {
   if constexpr (StatesKey<Element>) {
     return element.*Element::key();
-  } else if constexpr (KindClass<Element>) {
+  } else if constexpr (describe::KindClass<Element>) {
     return element.Name();
   } else {
     return element.Name;
@@ -87,7 +87,7 @@ class CollectionIterator {
 /// neither copied nor checked. An empty reference may stand in a list, which then cannot be
 /// written. `Class` is the list's own class; it may give its layout and members anew.
 template <class Class, class Element, class Base = Object>
-class Collection : public Described<Class, Base> {
+class Collection : public describe::Described<Class, Base> {
  public:
   void Add(const Ref<Element>& element) {
     elements_.push_back(element);
@@ -102,13 +102,13 @@ class Collection : public Described<Class, Base> {
   /// Creates an element from the properties that its `Form` names, appends and returns it.
   template <class... Arguments>
   requires collection_detail::HasForm<Element> Ref<Element> Add1(const Arguments&... arguments) {
-    return Addition<Class, typename Element::Form>::Run(self(), arguments...);
+    return describe::Addition<Class, typename Element::Form>::Run(self(), arguments...);
   }
   /// The same with the properties of `LongForm`.
   template <class... Arguments>
   requires collection_detail::HasLongForm<Element> Ref<Element> Add2(
       const Arguments&... arguments) {
-    return Addition<Class, typename Element::LongForm>::Run(self(), arguments...);
+    return describe::Addition<Class, typename Element::LongForm>::Run(self(), arguments...);
   }
   /// The first element of that name, compared exactly; an empty reference when there is none.
   Ref<Element> Find(const Text& key) const requires collection_detail::HasKey<Element> {
@@ -150,10 +150,14 @@ class Collection : public Described<Class, Base> {
   }
 
   /// What named arguments call an element that is added.
-  static constexpr std::string_view kArgument = TypeName<Element>();
+  static constexpr std::string_view kArgument = detail::TypeName<Element>();
 
-  static Members members() { return additions() + lookups() + positions(); }
-  static Layout layout() {
+  static describe::Members members() {
+    using namespace describe;
+    return additions() + lookups() + positions();
+  }
+  static describe::Layout layout() {
+    using namespace describe;
     return {.elements = {choice<Element>()}, .container = Container::WhenNotEmpty};
   }
 
@@ -167,18 +171,24 @@ class Collection : public Described<Class, Base> {
     return -1;
   }
 
-  static Member add() { return method<&Class::Add>("Appends the element.", {Class::kArgument}); }
-  static Member addBefore() {
+  static describe::Member add() {
+    using namespace describe;
+    return method<&Class::Add>("Appends the element.", {Class::kArgument});
+  }
+  static describe::Member addBefore() {
+    using namespace describe;
     return method<&Class::AddBefore>(
         "Inserts the element before the one at the position; Count + 1 appends.",
         {Class::kArgument, "BeforeIndex"});
   }
   template <class Form>
-  static Member creation(std::string_view name) {
-    return creatingMember<Addition<Class, Form>, Form>(name);
+  static describe::Member creation(std::string_view name) {
+    using namespace describe;
+    return creatingMember<describe::Addition<Class, Form>, Form>(name);
   }
-  static Members additions() {
-    Members members{add(), addBefore()};
+  static describe::Members additions() {
+    using namespace describe;
+    describe::Members members{add(), addBefore()};
     if constexpr (collection_detail::HasForm<Element>) {
       members.push_back(creation<typename Element::Form>("Add1"));
     }
@@ -187,10 +197,12 @@ class Collection : public Described<Class, Base> {
     }
     return members;
   }
-  static Members lookups() {
+  static describe::Members lookups() {
+    using namespace describe;
     if constexpr (collection_detail::HasKey<Element>) {
       std::string_view key = "Name";
-      if constexpr (collection_detail::StatesKey<Element>) key = EntityName<Element::key()>();
+      if constexpr (collection_detail::StatesKey<Element>)
+        key = detail::EntityName<Element::key()>();
       return {
           method<&Class::Find>("The first element of that name, or nothing.", {key}),
           method<&Class::FindNr>("The position of the first element of that name, or -1.", {key})};
@@ -198,12 +210,14 @@ class Collection : public Described<Class, Base> {
       return {};
     }
   }
-  static Member item() {
+  static describe::Member item() {
+    using namespace describe;
     return WithId(
         computed<&Class::Item>("The element at a position from 1 to Count.", {"vntIndexKey"}),
         kDefaultMemberId);
   }
-  static Members positions() {
+  static describe::Members positions() {
+    using namespace describe;
     return {item(), computed<&Class::Count>("The number of elements."),
             method<&Class::Remove>("Removes the element at a position.", {"vntIndexKey"}),
             WithId(computed<&Class::NewEnum>("An enumerator over the elements in list order."),

@@ -6,12 +6,14 @@
 
 namespace praxen {
 
+using namespace detail;
+
 int32_t maintenance::NrOfObjects() const { return ObjectCounter(); }
 
 bool maintenance::GetIncludeCRLFInXML() const { return IncludeCRLFInXML(); }
 
 void maintenance::SetIncludeCRLFInXML(const bool& include) { praxen::SetIncludeCRLFInXML(include); }
 
-template const ClassDescription& Describe<maintenance>();
+template const ClassDescription& describe::Describe<maintenance>();
 
 }  // namespace praxen

@@ -7,14 +7,15 @@
 namespace praxen {
 
 // The class is published with a lower-case name.
-class maintenance final : public Described<maintenance> {
+class maintenance final : public describe::Described<maintenance> {
  public:
   int32_t NrOfObjects() const;
   bool GetIncludeCRLFInXML() const;
   void SetIncludeCRLFInXML(const bool& include);
 
   static constexpr std::string_view kHelp = "The state of the whole library.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {computed<&maintenance::NrOfObjects>(
                 "Number of live objects of the library, its shared writer and factory and this "
                 "object included."),
@@ -23,7 +24,7 @@ class maintenance final : public Described<maintenance> {
   }
 };
 
-extern template const ClassDescription& Describe<maintenance>();
+extern template const describe::ClassDescription& describe::Describe<maintenance>();
 
 }  // namespace praxen
 

@@ -14,7 +14,7 @@
 #include "praxen/factory/classes.h"
 #include "praxen/server/registration.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -79,34 +79,35 @@ const char* TextOrNull(Work work) noexcept {
 
 }  // namespace
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 const char* PraxenClasses() noexcept {
-  return praxen::TextOrNull([] {
-    static const std::string lines = praxen::WriteClasses();
+  return praxen::detail::TextOrNull([] {
+    static const std::string lines = praxen::detail::WriteClasses();
     return lines.c_str();
   });
 }
 
 const char* PraxenMembers(const char* className) noexcept {
-  return praxen::TextOrNull([&]() -> const char* {
+  return praxen::detail::TextOrNull([&]() -> const char* {
     if (className == nullptr) return nullptr;
     const std::string_view name(className);
-    const auto* const found = praxen::FindClass(praxen::WidenAscii(name));
-    return found == nullptr ? nullptr : praxen::TextsOf(*found).members.c_str();
+    const auto* const found = praxen::detail::FindClass(praxen::detail::WidenAscii(name));
+    return found == nullptr ? nullptr : praxen::detail::TextsOf(*found).members.c_str();
   });
 }
 
 const char* PraxenConstants() noexcept {
-  return praxen::TextOrNull([] {
-    static const std::string lines = praxen::WriteConstants();
+  return praxen::detail::TextOrNull([] {
+    static const std::string lines = praxen::detail::WriteConstants();
     return lines.c_str();
   });
 }
 
 const char* PraxenClassOf(IUnknown* object) noexcept {
-  return praxen::TextOrNull([&]() -> const char* {
-    const auto found = praxen::abi::ToObject(reinterpret_cast<praxen::Interface*>(object), nullptr);
-    return found ? praxen::TextsOf(found->description()).name.c_str() : nullptr;
+  return praxen::detail::TextOrNull([&]() -> const char* {
+    const auto found = praxen::detail::abi::ToObject(
+        reinterpret_cast<praxen::detail::Interface*>(object), nullptr);
+    return found ? praxen::detail::TextsOf(found->description()).name.c_str() : nullptr;
   });
 }

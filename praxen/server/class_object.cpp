@@ -7,7 +7,7 @@
 #include "praxen/describe/identifiers.h"
 #include "praxen/factory/classes.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -75,4 +75,4 @@ HRESULT GetClassObject(REFCLSID clsid, REFIID iid, void** out) noexcept {
 
 bool CanUnload() noexcept { return locks == 0 && !ModuleInUse(); }
 
-}  // namespace praxen
+}  // namespace praxen::detail

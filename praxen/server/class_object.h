@@ -4,7 +4,7 @@
 
 #include "praxen/automation/automation.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Makes a class object for a creatable class. CLASS_E_CLASSNOTAVAILABLE for any other identifier,
 /// those of the kinds that cannot be created included.
@@ -13,6 +13,6 @@ HRESULT GetClassObject(REFCLSID clsid, REFIID iid, void** out) noexcept;
 /// Whether neither objects, class objects nor locks are left.
 bool CanUnload() noexcept;
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_SERVER_CLASS_OBJECT_H_

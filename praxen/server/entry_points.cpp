@@ -12,21 +12,25 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out);
 STDAPI DllCanUnloadNow();
 #endif
 
-STDAPI DllRegisterServer() { return praxen::Register(praxen::RegistrationScope::Machine); }
-
-STDAPI DllUnregisterServer() { return praxen::Unregister(praxen::RegistrationScope::Machine); }
-
-STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
-  return praxen::GetClassObject(clsid, iid, out);
+STDAPI DllRegisterServer() {
+  return praxen::detail::Register(praxen::detail::RegistrationScope::Machine);
 }
 
-STDAPI DllCanUnloadNow() { return praxen::CanUnload() ? S_OK : S_FALSE; }
+STDAPI DllUnregisterServer() {
+  return praxen::detail::Unregister(praxen::detail::RegistrationScope::Machine);
+}
+
+STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out) {
+  return praxen::detail::GetClassObject(clsid, iid, out);
+}
+
+STDAPI DllCanUnloadNow() { return praxen::detail::CanUnload() ? S_OK : S_FALSE; }
 
 #ifdef _WIN32
 // Called by "regsvr32 /n /i:user" to register for the user alone.
 STDAPI DllInstall(BOOL install, LPCWSTR scope) {
   if (scope == nullptr || lstrcmpiW(scope, L"user") != 0) return E_INVALIDARG;
-  return install ? praxen::Register(praxen::RegistrationScope::User)
-                 : praxen::Unregister(praxen::RegistrationScope::User);
+  return install ? praxen::detail::Register(praxen::detail::RegistrationScope::User)
+                 : praxen::detail::Unregister(praxen::detail::RegistrationScope::User);
 }
 #endif

@@ -11,7 +11,7 @@
 #include "praxen/model/pou/i_control_module.h"
 #include "praxen/model/pou/sfc_element.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -163,6 +163,11 @@ Ref<Object> Hold(Interface* foreign) {
 }
 
 }  // namespace
+}  // namespace praxen::detail
+
+namespace praxen {
+
+using namespace detail;
 
 Ref<Object> ICodeBlock::Adapt(Interface* foreign) {
   return Hold<ForeignCodeBlock, ICodeBlock>(foreign);

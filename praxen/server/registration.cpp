@@ -6,7 +6,7 @@
 #include "praxen/describe/identifiers.h"
 #include "praxen/factory/classes.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -99,4 +99,4 @@ std::vector<std::string> SharedRegistryKeys() {
   return {AllVersionsKey(), "TypeLib", "Interface", "CLSID"};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

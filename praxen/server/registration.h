@@ -9,7 +9,7 @@
 #include "praxen/automation/automation.h"
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// For whom classes are registered. Elsewhere than on Windows there is only the user.
 enum class RegistrationScope { Machine, User };
@@ -46,6 +46,6 @@ std::vector<std::string> RegistryKeys();
 /// The keys that others may share, inner ones first; each goes when nothing is left in it.
 std::vector<std::string> SharedRegistryKeys();
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_SERVER_REGISTRATION_H_

@@ -5,7 +5,7 @@
 #include "praxen/describe/identifiers.h"
 #include "praxen/server/registration.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 HRESULT Register(RegistrationScope) noexcept {
   return Guarded([] {
@@ -27,4 +27,4 @@ HRESULT Unregister(RegistrationScope) noexcept {
   });
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

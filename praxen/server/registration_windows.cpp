@@ -3,7 +3,7 @@
 #include "praxen/core/module_folder.h"
 #include "praxen/server/registration.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -94,4 +94,4 @@ HRESULT Unregister(RegistrationScope scope) noexcept {
   return Guarded([&] { return ToResult(DeleteAll(ClassesKey(scope))); });
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

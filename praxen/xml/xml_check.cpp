@@ -9,7 +9,7 @@
 #include "praxen/xml/xml_limits.h"
 #include "praxen/xml/xml_markup.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr size_t kNone = std::u16string_view::npos;
@@ -167,4 +167,4 @@ std::optional<XmlParseError> CheckXmlText(std::u16string_view text) {
   return std::nullopt;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -7,12 +7,12 @@
 
 #include "praxen/xml/xml_error.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The reason to refuse a text without parsing it: it is empty, has a document type declaration or
 /// a character that XML does not allow, or exceeds a limit. Other faults are the parser's to find.
 std::optional<XmlParseError> CheckXmlText(std::u16string_view text);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_CHECK_H_

@@ -7,7 +7,7 @@
 
 #include "praxen/xml/xml_check.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 // Searches from the cursor on and leaves it behind what is found.
@@ -118,4 +118,4 @@ bool XmlDocument::prepareEngine() {
   return true;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -15,7 +15,7 @@
 #include "praxen/xml/xml_name.h"
 #include "praxen/xml/xml_tree.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// A node of a document, or an absent one: what is asked of an absent node is absent or empty. A
 /// light value, valid until its document loads again or is destroyed.
@@ -104,6 +104,6 @@ class XmlDocument {
   bool rootDeclared_ = false;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_DOCUMENT_H_

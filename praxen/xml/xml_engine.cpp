@@ -24,7 +24,7 @@
 #include "praxen/xml/xml_reason.h"
 #include "praxen/xml/xml_tree_builder.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 // Keeps Xerces from ending the process.
@@ -279,4 +279,4 @@ XmlLoadResult XmlEngine::load(std::u16string_view text, XmlTree& tree) {
 
 bool XmlEngine::retired() const { return parser_->retired(); }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -9,7 +9,7 @@
 #include "praxen/xml/xml_error.h"
 #include "praxen/xml/xml_tree.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// An XML Schema.
 struct XmlSchemaSource {
@@ -48,6 +48,6 @@ class XmlEngine {
   std::unique_ptr<Parser> parser_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_ENGINE_H_

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-namespace praxen {
+namespace praxen::detail {
 XmlParseError MakeXmlError(std::u16string sentence, Place place) {
   if (place.line != 0) sentence += u" (" + PlaceText(place) + u")";
   return {std::move(sentence), place};
@@ -17,4 +17,4 @@ std::u16string XmlCodePoint(uint32_t character) {
   return u"U+" + digits;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

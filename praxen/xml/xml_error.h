@@ -9,7 +9,7 @@
 
 #include "praxen/core/place.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// What made a load fail.
 struct XmlParseError {
@@ -26,6 +26,6 @@ XmlParseError MakeXmlError(std::u16string sentence, Place place);
 /// A character as "U+" and at least four hexadecimal digits.
 std::u16string XmlCodePoint(uint32_t character);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_ERROR_H_

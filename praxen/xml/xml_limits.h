@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// How deep elements may be nested; the root element has depth 1.
 inline constexpr uint32_t kMaxXmlDepth = 1'000;
@@ -30,6 +30,6 @@ inline constexpr size_t kMaxXmlAttributeLength = 10'000'000;
 /// The length of a document in UTF-16 units.
 inline constexpr size_t kMaxXmlDocumentLength = 500'000'000;
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_LIMITS_H_

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 // The offset of `c` at or after `from`, or the length of the text. Looks at a whole block before
@@ -152,4 +152,4 @@ XmlRawAttribute NextXmlAttribute(std::u16string_view tag, size_t from) {
   return {tag.substr(from, nameEnd - from), tag.substr(open + 1, close - open - 1), from};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

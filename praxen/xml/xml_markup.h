@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// What a piece of a document is.
 enum class XmlMarkupKind : uint8_t {
@@ -86,6 +86,6 @@ struct XmlRawAttribute {
 /// The first attribute of a tag at or after `from`.
 XmlRawAttribute NextXmlAttribute(std::u16string_view tag, size_t from);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_MARKUP_H_

@@ -8,7 +8,7 @@
 #include <xercesc/internal/XMLReader.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -76,4 +76,4 @@ bool XmlMemory::IsReserve(const void* memory) const {
   return !before(memory, reserve_) && before(memory, reserve_ + kReserve);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -8,7 +8,7 @@
 #include <new>
 #include <xercesc/framework/MemoryManager.hpp>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Gives Xerces the memory of grammars and scanners, with a reserve: destructors of Xerces
 /// ask for memory, too, and an exception that leaves one would end the process. Small requests are
@@ -69,6 +69,6 @@ class XmlMemory final : public xercesc::MemoryManager {
   alignas(std::max_align_t) std::byte reserve_[kReserve];
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_MEMORY_H_

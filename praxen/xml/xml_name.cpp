@@ -3,7 +3,7 @@
 
 #include <mutex>
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 class NameTable {
@@ -50,4 +50,4 @@ void XmlNameUser::clear() {
   names_.clear();
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

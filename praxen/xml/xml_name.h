@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The name of an element or attribute, kept once: two names are equal when their pointers are.
 using XmlName = const std::u16string*;
@@ -36,6 +36,6 @@ class XmlNameUser {
   std::map<std::u16string_view, XmlName> names_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_NAME_H_

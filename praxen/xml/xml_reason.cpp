@@ -10,7 +10,7 @@
 
 #include "praxen/xml/xml_markup.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 using xercesc::XMLErrs;
@@ -326,4 +326,4 @@ XmlParseError ExplainSchemaComplaint(std::u16string_view systemId, const XmlComp
           {}};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

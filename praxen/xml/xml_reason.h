@@ -9,7 +9,7 @@
 
 #include "praxen/xml/xml_error.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The list of the parser's to which the code of a complaint belongs.
 enum class XmlRuleList : uint8_t { kXml, kSchema, kOther };
@@ -41,6 +41,6 @@ XmlParseError ExplainXmlComplaint(std::u16string_view text, const XmlComplaint& 
 /// the document that was to be read.
 XmlParseError ExplainSchemaComplaint(std::u16string_view systemId, const XmlComplaint& complaint);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_REASON_H_

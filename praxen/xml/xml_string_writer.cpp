@@ -9,7 +9,7 @@
 #include "praxen/core/error.h"
 #include "praxen/xml/xml_limits.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -254,4 +254,4 @@ bool IncludeCRLFInXML() noexcept { return include_line_breaks; }
 
 void SetIncludeCRLFInXML(bool include) noexcept { include_line_breaks = include; }
 
-}  // namespace praxen
+}  // namespace praxen::detail

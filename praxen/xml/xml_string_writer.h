@@ -8,7 +8,7 @@
 #include "praxen/core/string_builder.h"
 #include "praxen/core/text.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Writes a document into a text buffer, without indentation and without checks of names or
 /// nesting order.
@@ -61,6 +61,6 @@ XMLStringWriter& SharedWriter();
 bool IncludeCRLFInXML() noexcept;
 void SetIncludeCRLFInXML(bool include) noexcept;
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_STRING_WRITER_H_

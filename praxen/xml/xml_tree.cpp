@@ -3,7 +3,7 @@
 
 #include "praxen/xml/xml_markup.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 XmlName TextName() {
@@ -104,4 +104,4 @@ std::u16string_view XmlTree::text(uint32_t node) const {
   return {found.text, found.count};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -15,7 +15,7 @@
 #include "praxen/xml/xml_error.h"
 #include "praxen/xml/xml_name.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// An attribute of an element.
 struct XmlAttribute {
@@ -168,6 +168,6 @@ class XmlTree {
   mutable std::vector<Extent> extents_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_TREE_H_

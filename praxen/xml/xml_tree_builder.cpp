@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 // Attributes beyond this number on one declaration come from a wildcard and are not remembered.
@@ -127,4 +127,4 @@ std::u16string_view XmlTreeBuilder::qualified(const XMLCh* prefix, const XMLCh* 
   return qualifiedName_.append(u":").append(local);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -16,7 +16,7 @@
 #include "praxen/xml/xml_name.h"
 #include "praxen/xml/xml_tree.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Adds nodes to a tree as the parser reports them.
 ///
@@ -84,6 +84,6 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
   std::u16string qualifiedName_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_XML_XML_TREE_BUILDER_H_

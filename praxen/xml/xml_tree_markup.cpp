@@ -6,7 +6,7 @@
 #include "praxen/xml/xml_markup.h"
 #include "praxen/xml/xml_tree.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 void AppendEscaped(std::u16string& out, std::u16string_view text, std::u16string_view special) {
@@ -210,4 +210,4 @@ std::u16string_view XmlTree::outerNamespace(uint32_t element,
   return {};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -19,7 +19,7 @@
 #include "tests/support/example.h"
 #include "tests/support/failing_allocator.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 using Failing = FailingAllocator::Failing;
@@ -281,4 +281,4 @@ INSTANTIATE_TEST_SUITE_P(
     });
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

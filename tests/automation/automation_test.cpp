@@ -15,7 +15,7 @@
 
 #include "praxen/automation/values.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 static_assert(sizeof(VARIANT) == 24 && offsetof(VARIANT, bstrVal) == 8);
@@ -484,4 +484,4 @@ TEST(ErrorObjects, BelongToTheThreadAndAreHandedOverOnce) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

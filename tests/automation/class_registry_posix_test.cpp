@@ -16,7 +16,7 @@
 
 #include "praxen/automation/guid.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 namespace fs = std::filesystem;
@@ -207,4 +207,4 @@ TEST_F(ClassRegistry, ReportsWhyNoObjectIsCreated) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -12,7 +12,7 @@
 #include "praxen/core/numbers.h"
 #include "praxen/core/text_functions.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 TEST(Enumerations, ReadTheirOwnTextsAndMapOthers) {
@@ -185,4 +185,4 @@ TEST(TextFunctions, SplitAtTheFirstDot) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

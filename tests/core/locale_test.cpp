@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 TEST(DecimalSeparator, CanBeSubstituted) {
@@ -88,4 +88,4 @@ TEST(DecimalSeparator, DecodesWideCharacters) {
 #endif
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

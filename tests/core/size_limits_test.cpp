@@ -10,7 +10,7 @@
 #include "praxen/xml/xml_string_writer.h"
 #include "tests/support/documents.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr int32_t kMost = std::numeric_limits<int32_t>::max();
@@ -95,4 +95,4 @@ TEST(SizeLimits, ATextThatIsTooLongIsNotMade) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -8,7 +8,7 @@
 
 #include "praxen/core/error.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 std::u16string Repeat(size_t count) { return std::u16string(count, u'x'); }
@@ -161,4 +161,4 @@ TEST(CStringBuilder, RefusesWhatIsOutsideTheText) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 TEST(Text, SharesCharactersUntilAssigned) {
@@ -55,4 +55,4 @@ TEST(Text, ConvertsToAndFromUtf8) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr Uuid kDns = {
@@ -55,4 +55,4 @@ TEST(Uuid, TextIsReadInAllItsForms) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

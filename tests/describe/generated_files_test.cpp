@@ -11,7 +11,7 @@
 #include "tools/generate/documents.h"
 #include "tools/generate/schema.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 std::string ReadFile(const std::filesystem::path& path) {
@@ -72,4 +72,4 @@ TEST(GeneratedFiles, TheSchemaKnowsEveryAttribute) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 // There are far more texts than places, so that many take the place of another and come again.
@@ -42,4 +42,4 @@ TEST(SharedTexts, OfShortTextsAreStoredOnceUntilCleared) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

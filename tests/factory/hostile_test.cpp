@@ -4,7 +4,7 @@
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 std::string Repeat(std::string_view text, size_t count) {
@@ -48,4 +48,4 @@ TEST(Hostile, LongValuesAreRead) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -7,7 +7,7 @@
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 struct Case {
@@ -354,4 +354,4 @@ TEST(Reading, DecimalsUnderAUserLocaleWithAComma) {
 #endif
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -8,7 +8,7 @@
 #include "praxen/xml/xml_string_writer.h"
 #include "tests/support/documents.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr const char* kBadPosition = "8002000B Subscript out of range";
@@ -173,4 +173,4 @@ TEST(Library, KeepsTheLineBreakSettingForAll) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

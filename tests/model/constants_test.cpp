@@ -7,7 +7,7 @@
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr const char* kConflict = "607 Name is in conflict with an existing name";
@@ -172,4 +172,4 @@ TEST(ProjectConstants, NeedTypeAndValueWhenRead) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -12,7 +12,7 @@
 #include "tests/support/documents.h"
 #include "tests/support/example.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 // Deep enough for a property of every class that the document can contain.
@@ -127,4 +127,4 @@ TEST(Documents, OfNewObjectsHoldWhatIsAlwaysWritten) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

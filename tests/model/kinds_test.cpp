@@ -7,7 +7,7 @@
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr const char* kMismatch = "80020005 Type mismatch";
@@ -471,4 +471,4 @@ TEST(Factory, ConvertsTheAcknowledgeGroupOfASignalToText) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -12,7 +12,7 @@
 #include "tests/support/documents.h"
 #include "tests/support/example.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr const char* kTooDeep =
@@ -192,4 +192,4 @@ TEST(NestingOfNames, EndsAtTheLimit) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

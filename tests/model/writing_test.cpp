@@ -6,7 +6,7 @@
 #include "tests/support/documents.h"
 #include "tests/support/example.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr const char* kRequired = "601 Required fields empty";
@@ -101,4 +101,4 @@ TEST(Writing, MissingObjectsAreErrorsOrLeftOut) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -7,7 +7,7 @@
 
 #include "tests/server/client.h"
 
-namespace praxen::client {
+namespace praxen::detail::client {
 namespace {
 
 TEST(ClassInformation, ListsMembersOfTheClassAndThenOfItsKind) {
@@ -40,4 +40,4 @@ TEST(ClassInformation, OnlyObjectsOfTheLibraryHaveAClass) {
 }
 
 }  // namespace
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

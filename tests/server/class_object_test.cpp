@@ -12,7 +12,7 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, void** out);
 STDAPI DllCanUnloadNow();
 #endif
 
-namespace praxen::client {
+namespace praxen::detail::client {
 namespace {
 
 ComPointer<IClassFactory> FactoryOf(const ClassDescription& description) {
@@ -110,4 +110,4 @@ TEST(ClassObject, WhateverIsHeldKeepsTheLibrary) {
 }
 
 }  // namespace
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

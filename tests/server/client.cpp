@@ -10,7 +10,7 @@
 #include "praxen/factory/classes.h"
 #include "praxen/server/class_object.h"
 
-namespace praxen::client {
+namespace praxen::detail::client {
 
 namespace {
 
@@ -112,4 +112,4 @@ int32_t CountedObjects() {
   return static_cast<int32_t>(Get(maintenance, u"NrOfObjects").lVal) - 1;
 }
 
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

@@ -9,7 +9,7 @@
 
 #include "praxen/automation/values.h"
 
-namespace praxen::client {
+namespace praxen::detail::client {
 
 using Handle = ComPointer<IDispatch>;
 using Values = std::vector<Variant>;
@@ -54,6 +54,6 @@ Variant OfType(VARTYPE type, LONG content = 0);
 /// `maintenance.NrOfObjects`, without the object through which it is read.
 int32_t CountedObjects();
 
-}  // namespace praxen::client
+}  // namespace praxen::detail::client
 
 #endif  // PRAXEN_TESTS_SERVER_CLIENT_H_

@@ -6,7 +6,7 @@
 #include "praxen/core/text.h"
 #include "tests/server/client.h"
 
-namespace praxen::client {
+namespace praxen::detail::client {
 namespace {
 
 constexpr WORD kGet = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
@@ -298,4 +298,4 @@ TEST_F(LateBound, NullPointersAreRefused) {
 }
 
 }  // namespace
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

@@ -3,7 +3,7 @@
 
 #include "tests/server/client.h"
 
-namespace praxen::client {
+namespace praxen::detail::client {
 namespace {
 
 using Enumerator = ComPointer<IEnumVARIANT>;
@@ -96,4 +96,4 @@ TEST_F(EnumeratorOfThree, BadRequestsAreRefused) {
 }
 
 }  // namespace
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

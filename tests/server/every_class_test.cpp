@@ -6,7 +6,7 @@
 #include "praxen/server/registration.h"
 #include "tests/server/client.h"
 
-namespace praxen::client {
+namespace praxen::detail::client {
 namespace {
 
 // A class whose objects can stand for the type: a creatable one, for a kind one that implements it.
@@ -97,4 +97,4 @@ TEST(EveryClass, HasEachOfItsNamesAndIdentifiersOnce) {
 }
 
 }  // namespace
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

@@ -5,7 +5,7 @@
 #include "praxen/factory/classes.h"
 #include "tests/server/client.h"
 
-namespace praxen::client {
+namespace praxen::detail::client {
 namespace {
 
 // An object of a client; what derives from it adds the functions of a kind in slot order.
@@ -165,4 +165,4 @@ TEST_F(ForeignKinds, OnlyTheKindThatIsNeededWillDo) {
 }
 
 }  // namespace
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

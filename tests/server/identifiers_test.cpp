@@ -9,7 +9,7 @@
 #include "praxen/describe/identifiers.h"
 #include "praxen/factory/classes.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 std::string PublishedIdentifiers() {
@@ -52,4 +52,4 @@ TEST(Identifiers, LeadBackToTheirClasses) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

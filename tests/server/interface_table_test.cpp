@@ -6,7 +6,7 @@
 #include "praxen/factory/classes.h"
 #include "tests/server/client.h"
 
-namespace praxen::client {
+namespace praxen::detail::client {
 
 // Slot order is the order of declaration. The interfaces have linkage, because a compiler that sees
 // that no class of the program implements them would otherwise take a call for impossible.
@@ -250,4 +250,4 @@ TEST(InterfaceTable, ErrorInformationIsOfTheLastFailure) {
 }
 
 }  // namespace
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

@@ -12,7 +12,7 @@
 #include "praxen/factory/classes.h"
 #include "tools/generate/manifest.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 size_t Count(const std::string& text, const std::string& part) {
@@ -74,4 +74,4 @@ TEST(Registration, TheManifestNamesTheSame) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

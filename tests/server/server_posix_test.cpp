@@ -12,7 +12,7 @@
 STDAPI DllRegisterServer();
 STDAPI DllUnregisterServer();
 
-namespace praxen::client {
+namespace praxen::detail::client {
 namespace {
 
 namespace fs = std::filesystem;
@@ -102,4 +102,4 @@ TEST_F(Server, TheLibraryCanBeUnloaded) {
 #endif
 
 }  // namespace
-}  // namespace praxen::client
+}  // namespace praxen::detail::client

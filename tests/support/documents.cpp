@@ -8,7 +8,7 @@
 #include "praxen/factory/deserialization.h"
 #include "praxen/xml/xml_string_writer.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -71,4 +71,4 @@ std::string ErrorOf(const std::function<void()>& operation) {
   }
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -8,7 +8,7 @@
 
 #include "praxen/describe/object.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The markup as a document: with the namespace on its root element.
 Text Document(std::string_view markup);
@@ -23,6 +23,6 @@ std::string Rewritten(std::string_view markup, std::string_view className = {});
 /// The error that an operation raises, in the same form; "none" without an error.
 std::string ErrorOf(const std::function<void()>& operation);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TESTS_SUPPORT_DOCUMENTS_H_

@@ -7,7 +7,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/xml/xml_string_writer.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -106,4 +106,4 @@ std::string ExampleDocument(Object& object) {
   return document;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

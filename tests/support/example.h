@@ -6,7 +6,7 @@
 
 #include "praxen/describe/object.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Sets every property that clients can set to a value other than that of a new object, no two
 /// texts alike, and puts an element of every class that it can hold into each list. Objects
@@ -20,6 +20,6 @@ void FillRequired(Object& object);
 /// itself.
 std::string ExampleDocument(Object& object);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TESTS_SUPPORT_EXAMPLE_H_

@@ -89,7 +89,7 @@ void operator delete[](void* memory, size_t) noexcept { std::free(memory); }
 void operator delete(void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
 void operator delete[](void* memory, const std::nothrow_t&) noexcept { std::free(memory); }
 
-namespace praxen {
+namespace praxen::detail {
 
 FailingAllocator::FailingAllocator(size_t request, Failing failing) {
   fails_from_then_on = failing == Failing::FromThenOn;
@@ -101,4 +101,4 @@ FailingAllocator::~FailingAllocator() { requests_left = kNever; }
 
 bool FailingAllocator::hasFailed() const { return has_failed; }
 
-}  // namespace praxen
+}  // namespace praxen::detail

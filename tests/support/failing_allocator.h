@@ -4,7 +4,7 @@
 
 #include <cstddef>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// While it lives, requests for memory of the process fail: operator new raises std::bad_alloc, and
 /// malloc, calloc and realloc return null pointers; on Windows only one of them does.
@@ -23,6 +23,6 @@ class FailingAllocator {
   bool hasFailed() const;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TESTS_SUPPORT_FAILING_ALLOCATOR_H_

@@ -10,7 +10,7 @@
 
 #include <algorithm>
 
-namespace praxen {
+namespace praxen::detail {
 
 using Content = ElementDeclaration::Content;
 
@@ -291,4 +291,4 @@ std::u16string RandomDocuments::Render(const RandomElement& element) {
   return markup + u">" + element.content + u"</" + name + Any({u">", u" >"});
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

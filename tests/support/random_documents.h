@@ -13,7 +13,7 @@
 
 #include "tools/generate/schema.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// An element while it is made.
 struct RandomElement {
@@ -63,6 +63,6 @@ class RandomDocuments {
   const struct ElementFault* pending_ = nullptr;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TESTS_SUPPORT_RANDOM_DOCUMENTS_H_

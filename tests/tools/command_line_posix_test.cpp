@@ -13,7 +13,7 @@
 
 #include "praxen/praxen.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 void WriteFile(const std::filesystem::path& file, std::string_view bytes) {
@@ -269,4 +269,4 @@ TEST_F(CommandLine, WrongUseIsToldFromBadDocuments) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -15,7 +15,7 @@
 #include "tests/support/random_documents.h"
 #include "tools/generate/schema.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 template <auto Free>
@@ -185,4 +185,4 @@ TEST(Differential, NoDefaultStandsBesideAGivenValue) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -12,7 +12,7 @@
 
 #include "praxen/xml/xml_limits.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 constexpr char kSchema[] = R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -562,4 +562,4 @@ TEST(XmlNode, MarkupStandsByItself) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

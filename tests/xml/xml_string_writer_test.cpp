@@ -9,7 +9,7 @@
 #include "praxen/core/error.h"
 #include "praxen/xml/xml_limits.h"
 
-namespace praxen {
+namespace praxen::detail {
 namespace {
 
 const std::u16string kDeclaration = u"<?xml version='1.0' encoding='UTF-16'?>";
@@ -113,4 +113,4 @@ TEST(XMLStringWriter, CountsAsALiveObject) {
 }
 
 }  // namespace
-}  // namespace praxen
+}  // namespace praxen::detail

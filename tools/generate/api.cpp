@@ -7,7 +7,7 @@
 #include "praxen/factory/classes.h"
 #include "tools/generate/documents.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -149,4 +149,4 @@ std::string ApiDocument() {
   return text;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

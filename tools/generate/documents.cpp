@@ -5,7 +5,7 @@
 #include "tools/generate/schema.h"
 #include "tools/generate/type_library.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 std::vector<GeneratedFile> GenerateFiles() {
   return {{"schema/PraxenSchema3_0.xsd", GenerateSchema()},
@@ -15,4 +15,4 @@ std::vector<GeneratedFile> GenerateFiles() {
           {"docs/api.md", ApiDocument()}};
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace praxen {
+namespace praxen::detail {
 
 struct GeneratedFile {
   /// From the root of the source tree.
@@ -21,6 +21,6 @@ std::string ApiDocument();
 /// All generated files that are checked in.
 std::vector<GeneratedFile> GenerateFiles();
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_GENERATE_DOCUMENTS_H_

@@ -31,7 +31,7 @@ bool Write(const std::filesystem::path& path, const std::string& content) {
 int main(int count, char** arguments) {
   try {
     const std::filesystem::path root = count > 1 ? arguments[1] : ".";
-    for (const praxen::GeneratedFile& file : praxen::GenerateFiles()) {
+    for (const praxen::detail::GeneratedFile& file : praxen::detail::GenerateFiles()) {
       const bool changed = Write(root / file.path, file.content);
       std::cout << file.path << (changed ? ": written\n" : ": up to date\n");
     }

@@ -6,7 +6,7 @@
 #include "praxen/factory/classes.h"
 #include "praxen/server/registration.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -50,4 +50,4 @@ std::string GenerateManifest() {
   return text + "</assembly>\n";
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

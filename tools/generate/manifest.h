@@ -4,12 +4,12 @@
 
 #include <string>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// An assembly manifest in UTF-8 that names every creatable class and every interface; it lies
 /// beside the library and is named as a dependency by the program that uses it.
 std::string GenerateManifest();
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // TOOLS_GENERATE_MANIFEST_H_

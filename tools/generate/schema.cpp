@@ -7,7 +7,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/factory/classes.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -166,4 +166,4 @@ std::string GenerateSchema() {
   return schema + "</xs:schema>\n";
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -9,7 +9,7 @@
 
 #include "praxen/describe/layout.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// An attribute as the schema declares it; all attributes are strings, so that the readers' own
 /// conversions decide what a value means.
@@ -41,6 +41,6 @@ AttributeDeclaration DeclareAttribute(const Attribute& attribute);
 /// The schema document as UTF-8.
 std::string GenerateSchema();
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // TOOLS_GENERATE_SCHEMA_H_

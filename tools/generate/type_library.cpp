@@ -9,7 +9,7 @@
 #include "praxen/describe/identifiers.h"
 #include "praxen/factory/classes.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -134,4 +134,4 @@ std::string GenerateTypeLibrary() {
   return text + "}\n";
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

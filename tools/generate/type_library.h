@@ -7,7 +7,7 @@
 
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The type as interface definitions spell it: "BSTR", "_Variable*", "DirectionValue".
 std::string TypeLibraryType(const ValueType& type);
@@ -15,6 +15,6 @@ std::string TypeLibraryType(const ValueType& type);
 /// The interface definition of the whole library.
 std::string GenerateTypeLibrary();
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // TOOLS_GENERATE_TYPE_LIBRARY_H_

@@ -8,7 +8,7 @@
 #include "tools/generate/documents.h"
 #include "tools/generate/schema.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -160,4 +160,4 @@ std::string XmlFormatDocument() {
   return text;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

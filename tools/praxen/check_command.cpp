@@ -12,7 +12,7 @@
 #include "tools/praxen/object_tree.h"
 #include "tools/praxen/terminal.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -57,4 +57,4 @@ void AddCheckCommand(CLI::App& app, int& exitCode) {
   command->callback([&exitCode, files] { exitCode = ForEachDocument(*files, Check); });
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

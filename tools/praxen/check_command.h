@@ -4,11 +4,11 @@
 
 #include <CLI/CLI.hpp>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Adds the command; it sets `exitCode` to 1 when a file is not a good document.
 void AddCheckCommand(CLI::App& app, int& exitCode);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_CHECK_COMMAND_H_

@@ -5,7 +5,7 @@
 
 #include "tools/praxen/terminal.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -76,4 +76,4 @@ void PrintError(const std::string& file, const Error& error, const Text& text) {
   std::cerr << SourceLines(text, place) << std::flush;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -7,7 +7,7 @@
 
 #include "praxen/core/error.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Prints "FILE: error: …" on standard error.
 void PrintError(const std::string& file, std::string_view sentence);
@@ -19,6 +19,6 @@ void PrintError(const std::string& file, const Error& error, const Text& text);
 /// column.
 std::string SourceLines(std::u16string_view text, Place place);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_DIAGNOSTICS_H_

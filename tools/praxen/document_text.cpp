@@ -9,7 +9,7 @@
 #include <istream>
 #include <system_error>
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -96,4 +96,4 @@ std::string Encode(const Text& text, Encoding encoding) {
   return bytes;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -11,7 +11,7 @@
 #include "praxen/core/text.h"
 #include "tools/praxen/progress.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The path of a file that is named in UTF-8.
 std::filesystem::path PathOf(const std::string& name);
@@ -36,6 +36,6 @@ enum class Encoding { Utf8, Utf16 };
 /// The bytes of a text: UTF-16 in little-endian order behind a byte-order mark, or UTF-8.
 std::string Encode(const Text& text, Encoding encoding);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_DOCUMENT_TEXT_H_

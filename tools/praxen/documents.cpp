@@ -12,7 +12,7 @@
 #include "tools/praxen/document_text.h"
 #include "tools/praxen/progress.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -127,4 +127,4 @@ int ForEachDocument(const std::vector<std::string>& files,
   return good ? 0 : 1;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

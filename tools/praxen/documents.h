@@ -8,7 +8,7 @@
 
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The classes that the factory reads from documents, in the order of its operations.
 const std::vector<const ClassDescription*>& DocumentClasses();
@@ -24,6 +24,6 @@ Ref<Object> ReadDocument(const Text& text);
 int ForEachDocument(const std::vector<std::string>& files,
                     const std::function<bool(const std::string& file, const Text& text)>& work);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_DOCUMENTS_H_

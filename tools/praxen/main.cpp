@@ -27,11 +27,11 @@ int Run(std::vector<std::string> arguments) {
   app.set_version_flag("--version", "praxen " PRAXEN_VERSION);
   app.require_subcommand(1);
   app.get_formatter()->column_width(36);
-  praxen::AddSampleCommand(app, exitCode);
-  praxen::AddCheckCommand(app, exitCode);
-  praxen::AddShowCommand(app, exitCode);
-  praxen::AddMessagesCommand(app, exitCode);
-  praxen::AddRegisterCommands(app, exitCode);
+  praxen::detail::AddSampleCommand(app, exitCode);
+  praxen::detail::AddCheckCommand(app, exitCode);
+  praxen::detail::AddShowCommand(app, exitCode);
+  praxen::detail::AddMessagesCommand(app, exitCode);
+  praxen::detail::AddRegisterCommands(app, exitCode);
   try {
     // The parser takes them from the back.
     std::ranges::reverse(arguments);
@@ -47,9 +47,9 @@ int Run(std::vector<std::string> arguments) {
 
 int main(int argc, char** argv) {
   try {
-    return Run(praxen::PrepareStreams(argc, argv));
+    return Run(praxen::detail::PrepareStreams(argc, argv));
   } catch (const std::exception& error) {
-    praxen::PrintError("praxen", error.what());
+    praxen::detail::PrintError("praxen", error.what());
     return 1;
   }
 }

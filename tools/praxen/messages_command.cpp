@@ -12,7 +12,7 @@
 #include "tools/praxen/documents.h"
 #include "tools/praxen/terminal.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -128,4 +128,4 @@ void AddMessagesCommand(CLI::App& app, int& exitCode) {
   });
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -4,11 +4,11 @@
 
 #include <CLI/CLI.hpp>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Adds the command; it sets `exitCode` to 1 when there are errors.
 void AddMessagesCommand(CLI::App& app, int& exitCode);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_MESSAGES_COMMAND_H_

@@ -2,7 +2,7 @@
 
 #include "praxen/automation/values.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -63,4 +63,4 @@ Object* Held(Object& object, const Child& child) {
 
 size_t CountObjects(Object& object) { return 1 + CountBelow(object); }
 
-}  // namespace praxen
+}  // namespace praxen::detail

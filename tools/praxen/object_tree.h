@@ -10,7 +10,7 @@
 
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The attributes of a class's element; none for a class that writes itself.
 const std::vector<Attribute>& AttributesOf(const ClassDescription& description);
@@ -32,6 +32,6 @@ Object* Held(Object& object, const Child& child);
 /// there whether or not a document has them.
 size_t CountObjects(Object& object);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_OBJECT_TREE_H_

@@ -14,7 +14,7 @@
 #include "praxen/describe/description.h"
 #include "tools/praxen/object_tree.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -264,4 +264,4 @@ void PrintOutline(Object& object, size_t depth, const Colours& colours, std::ost
   printer.Print(printer.BranchOf(object), "", depth);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

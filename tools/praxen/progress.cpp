@@ -4,7 +4,7 @@
 
 #include "tools/praxen/terminal.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -42,4 +42,4 @@ void Progress::Clear() {
   std::cerr << "\r\x1b[K" << std::flush;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

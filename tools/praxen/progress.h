@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Shows files and bytes once the work has taken half a second, when standard error is a terminal;
 /// the line vanishes at the end.
@@ -35,6 +35,6 @@ class Progress {
   Clock::time_point next_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_PROGRESS_H_

@@ -14,7 +14,7 @@ STDAPI DllRegisterServer();
 STDAPI DllUnregisterServer();
 #endif
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -89,4 +89,4 @@ void AddRegisterCommands(CLI::App& app, int& exitCode) {
   AddCommand(app, exitCode, "unregister", "Undo that", false);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

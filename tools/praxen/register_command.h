@@ -4,11 +4,11 @@
 
 #include <CLI/CLI.hpp>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Adds both commands; they set `exitCode` to 1 when the registry cannot be changed.
 void AddRegisterCommands(CLI::App& app, int& exitCode);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_REGISTER_COMMAND_H_

@@ -2,7 +2,7 @@
 #include "praxen/factory/object_factory.h"
 #include "tools/praxen/samples.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -153,4 +153,4 @@ constexpr SampleFamily kFamilies[] = {
 
 std::span<const SampleFamily> ApplicationSamples() { return kFamilies; }
 
-}  // namespace praxen
+}  // namespace praxen::detail

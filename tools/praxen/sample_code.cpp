@@ -2,7 +2,7 @@
 #include "praxen/factory/object_factory.h"
 #include "tools/praxen/samples.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -76,4 +76,4 @@ constexpr SampleFamily kFamilies[] = {
 
 std::span<const SampleFamily> CodeSamples() { return kFamilies; }
 
-}  // namespace praxen
+}  // namespace praxen::detail

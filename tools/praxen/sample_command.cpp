@@ -14,7 +14,7 @@
 #include "tools/praxen/samples.h"
 #include "tools/praxen/terminal.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -96,4 +96,4 @@ void AddSampleCommand(CLI::App& app, int& exitCode) {
       [&exitCode, options, encoding] { exitCode = Run(*options, encoding->count() > 0); });
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

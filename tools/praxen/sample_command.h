@@ -4,11 +4,11 @@
 
 #include <CLI/CLI.hpp>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Adds the command; it sets `exitCode` to 1 when the document cannot be written.
 void AddSampleCommand(CLI::App& app, int& exitCode);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_SAMPLE_COMMAND_H_

@@ -2,7 +2,7 @@
 #include "praxen/factory/object_factory.h"
 #include "tools/praxen/samples.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -94,4 +94,4 @@ constexpr SampleFamily kFamilies[] = {
 
 std::span<const SampleFamily> DataSamples() { return kFamilies; }
 
-}  // namespace praxen
+}  // namespace praxen::detail

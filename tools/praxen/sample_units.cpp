@@ -2,7 +2,7 @@
 #include "praxen/factory/object_factory.h"
 #include "tools/praxen/samples.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -165,4 +165,4 @@ constexpr SampleFamily kFamilies[] = {
 
 std::span<const SampleFamily> UnitSamples() { return kFamilies; }
 
-}  // namespace praxen
+}  // namespace praxen::detail

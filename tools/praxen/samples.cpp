@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace praxen {
+namespace praxen::detail {
 
 const std::vector<SampleFamily>& SampleFamilies() {
   static const std::vector<SampleFamily> families = [] {
@@ -20,4 +20,4 @@ const SampleFamily* FindSampleFamily(std::string_view name) {
   return found == SampleFamilies().end() ? nullptr : &*found;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

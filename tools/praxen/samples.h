@@ -8,7 +8,7 @@
 
 #include "praxen/describe/description.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 struct SampleFamily {
   std::string_view name;
@@ -28,6 +28,6 @@ const std::vector<SampleFamily>& SampleFamilies();
 /// The family of that name, or null.
 const SampleFamily* FindSampleFamily(std::string_view name);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_SAMPLES_H_

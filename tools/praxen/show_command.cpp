@@ -10,7 +10,7 @@
 #include "tools/praxen/outline.h"
 #include "tools/praxen/terminal.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -40,4 +40,4 @@ void AddShowCommand(CLI::App& app, int& exitCode) {
   command->callback([&exitCode, options] { exitCode = Show(*options); });
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -16,7 +16,7 @@
 #include <unistd.h>
 #endif
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -82,4 +82,4 @@ std::string Printable(std::u16string_view text) {
   return ToUtf8(printable);
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace praxen {
+namespace praxen::detail {
 
 /// Whether the stream ends on a screen.
 bool IsTerminal(FILE* stream);
@@ -27,6 +27,6 @@ struct Colours {
 /// that no document can steer the terminal. Tabs stay.
 std::string Printable(std::u16string_view text);
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_TOOLS_PRAXEN_TERMINAL_H_

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<AccessVariables>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<AccessVariables>();
 
 }  // namespace praxen

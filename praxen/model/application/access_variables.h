@@ -6,20 +6,24 @@
 
 namespace praxen {
 
-class AccessVariables final : public Serializable<AccessVariables> {
+class AccessVariables final : public describe::Serializable<AccessVariables> {
  public:
   Ref<praxen::VAProtocols> VAProtocols = New<praxen::VAProtocols>();
 
   static constexpr std::string_view kHelp =
       "The variables that other systems reach over protocols.";
   static constexpr const char16_t* kElement = u"Varaccess";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&AccessVariables::VAProtocols>("The protocols."), serialize()};
   }
-  static Layout layout() { return {.children = {items<&AccessVariables::VAProtocols>()}}; }
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.children = {items<&AccessVariables::VAProtocols>()}};
+  }
 };
 
-extern template const ClassDescription& Describe<AccessVariables>();
+extern template const describe::ClassDescription& describe::Describe<AccessVariables>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ApplicationProperties>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ApplicationProperties>();
 
 }  // namespace praxen

@@ -7,14 +7,15 @@
 
 namespace praxen {
 
-class ApplicationProperties final : public Serializable<ApplicationProperties> {
+class ApplicationProperties final : public describe::Serializable<ApplicationProperties> {
  public:
   Text SILLevel = u"NonSIL"_text;
   bool SimulationMark = false;
   ReadOnly<Text> ApplicationType{u"Normal"_text};
 
   static constexpr std::string_view kHelp = "The settings of an application.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&ApplicationProperties::SILLevel>("Safety integrity level."),
             property<&ApplicationProperties::SimulationMark>(
                 "Whether the application is marked for simulation."),
@@ -22,16 +23,17 @@ class ApplicationProperties final : public Serializable<ApplicationProperties> {
             property<&ApplicationProperties::ApplicationType>(
                 "Type of the application, as the engineering tool found it.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {readOnly<&ApplicationProperties::ApplicationType>(u"Type"),
                            optional<&ApplicationProperties::SILLevel>(),
                            optional<&ApplicationProperties::SimulationMark>()}};
   }
-  using Form = Creation<ApplicationProperties, &ApplicationProperties::SILLevel,
-                        &ApplicationProperties::SimulationMark>;
+  using Form = describe::Creation<ApplicationProperties, &ApplicationProperties::SILLevel,
+                                  &ApplicationProperties::SimulationMark>;
 };
 
-extern template const ClassDescription& Describe<ApplicationProperties>();
+extern template const describe::ClassDescription& describe::Describe<ApplicationProperties>();
 
 }  // namespace praxen
 

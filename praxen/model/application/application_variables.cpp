@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ApplicationVariables>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ApplicationVariables>();
 
 }  // namespace praxen

@@ -8,7 +8,7 @@
 
 namespace praxen {
 
-class ApplicationVariables final : public Serializable<ApplicationVariables> {
+class ApplicationVariables final : public describe::Serializable<ApplicationVariables> {
  public:
   Ref<praxen::GlobalVariables> GlobalVariables = New<praxen::GlobalVariables>();
   Ref<praxen::Variables> Variables = New<praxen::Variables>();
@@ -16,22 +16,24 @@ class ApplicationVariables final : public Serializable<ApplicationVariables> {
   Ref<praxen::Signals> Signals = New<praxen::Signals>();
 
   static constexpr std::string_view kHelp = "The variables and signals of an application.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&ApplicationVariables::GlobalVariables>("Global variables."),
             property<&ApplicationVariables::Variables>("Local variables."),
             property<&ApplicationVariables::Description>("Free text."), serialize(),
             property<&ApplicationVariables::Signals>("Signals.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.children = {list<&ApplicationVariables::GlobalVariables>(),
                          list<&ApplicationVariables::Variables>(),
                          list<&ApplicationVariables::Signals>(),
                          strictText<&ApplicationVariables::Description>()}};
   }
-  using Form = Creation<ApplicationVariables, &ApplicationVariables::Description>;
+  using Form = describe::Creation<ApplicationVariables, &ApplicationVariables::Description>;
 };
 
-extern template const ClassDescription& Describe<ApplicationVariables>();
+extern template const describe::ClassDescription& describe::Describe<ApplicationVariables>();
 
 }  // namespace praxen
 

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ConnectedApplication>();
-template const ClassDescription& Describe<ConnectedApplications>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ConnectedApplication>();
+template const ClassDescription& describe::Describe<ConnectedApplications>();
 
 }  // namespace praxen

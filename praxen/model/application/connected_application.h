@@ -18,8 +18,8 @@ class ConnectedApplications final
       "The applications that an application is connected to, in order.";
 };
 
-extern template const ClassDescription& Describe<ConnectedApplication>();
-extern template const ClassDescription& Describe<ConnectedApplications>();
+extern template const describe::ClassDescription& describe::Describe<ConnectedApplication>();
+extern template const describe::ClassDescription& describe::Describe<ConnectedApplications>();
 
 }  // namespace praxen
 

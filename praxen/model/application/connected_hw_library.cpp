@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ConnectedHWLibrary>();
-template const ClassDescription& Describe<ConnectedHWLibraries>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ConnectedHWLibrary>();
+template const ClassDescription& describe::Describe<ConnectedHWLibraries>();
 
 }  // namespace praxen

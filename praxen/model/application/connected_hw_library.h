@@ -20,8 +20,8 @@ class ConnectedHWLibraries final : public ConnectedItems<ConnectedHWLibraries, C
   static constexpr const char16_t* kElement = u"ConnectedHardwareLibraries";
 };
 
-extern template const ClassDescription& Describe<ConnectedHWLibrary>();
-extern template const ClassDescription& Describe<ConnectedHWLibraries>();
+extern template const describe::ClassDescription& describe::Describe<ConnectedHWLibrary>();
+extern template const describe::ClassDescription& describe::Describe<ConnectedHWLibraries>();
 
 }  // namespace praxen
 

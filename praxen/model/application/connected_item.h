@@ -8,27 +8,29 @@ namespace praxen {
 
 /// A reference to an application or a library of a certain version.
 template <class Class>
-class ConnectedItem : public Described<Class> {
+class ConnectedItem : public describe::Described<Class> {
  public:
   Text Name;
   int32_t MajorVersion = 1, MinorVersion = 0, Revision = 0;
   ReadOnly<Text> Guid;
 
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&ConnectedItem::Name>("Name; required for writing."),
             property<&ConnectedItem::MajorVersion>("First part of the version."),
             property<&ConnectedItem::MinorVersion>("Second part of the version."),
             property<&ConnectedItem::Revision>("Third part of the version."),
             property<&ConnectedItem::Guid>("GUID, as the engineering tool found it.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&ConnectedItem::Name>(), always<&ConnectedItem::MajorVersion>(),
                            always<&ConnectedItem::MinorVersion>(),
                            always<&ConnectedItem::Revision>(), readOnly<&ConnectedItem::Guid>()}};
   }
-  using Form = Creation<Class, &ConnectedItem::Name>;
-  using LongForm = Extended<Form, &ConnectedItem::MajorVersion, &ConnectedItem::MinorVersion,
-                            &ConnectedItem::Revision>;
+  using Form = describe::Creation<Class, &ConnectedItem::Name>;
+  using LongForm = describe::Extended<Form, &ConnectedItem::MajorVersion,
+                                      &ConnectedItem::MinorVersion, &ConnectedItem::Revision>;
 };
 
 template <class Class, class Item>
@@ -37,8 +39,14 @@ class ConnectedItems : public Collection<Class, Item, SerializableObject> {
 
  public:
   static constexpr std::string_view kArgument = "x";
-  static Members members() { return Members{serialize()} + List::members(); }
-  static Layout layout() { return {.elements = {choice<Item>()}, .container = Container::Always}; }
+  static describe::Members members() {
+    using namespace describe;
+    return Members{serialize()} + List::members();
+  }
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.elements = {choice<Item>()}, .container = Container::Always};
+  }
 };
 
 }  // namespace praxen

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ConnectedLibrary>();
-template const ClassDescription& Describe<ConnectedLibraries>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ConnectedLibrary>();
+template const ClassDescription& describe::Describe<ConnectedLibraries>();
 
 }  // namespace praxen

@@ -17,8 +17,8 @@ class ConnectedLibraries final : public ConnectedItems<ConnectedLibraries, Conne
       "The libraries that an application is connected to, in order.";
 };
 
-extern template const ClassDescription& Describe<ConnectedLibrary>();
-extern template const ClassDescription& Describe<ConnectedLibraries>();
+extern template const describe::ClassDescription& describe::Describe<ConnectedLibrary>();
+extern template const describe::ClassDescription& describe::Describe<ConnectedLibraries>();
 
 }  // namespace praxen
 

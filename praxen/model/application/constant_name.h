@@ -10,7 +10,7 @@
 #include "praxen/core/text.h"
 #include "praxen/model/application/dotted_name_index.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// A text that keeps the indexes in which it stands in step. Copies are not followed.
 class ConstantName {
@@ -49,6 +49,6 @@ class ConstantName {
   std::vector<DottedNameIndex*> indexes_;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_MODEL_APPLICATION_CONSTANT_NAME_H_

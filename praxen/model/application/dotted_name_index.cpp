@@ -5,7 +5,7 @@
 
 #include "praxen/core/text_functions.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 void DottedNameIndex::Add(const Text& name) {
   Node* node = &root_;
@@ -64,4 +64,4 @@ bool DottedNameIndex::ConflictsWith(std::u16string_view name) const {
   return node->names > 0;
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

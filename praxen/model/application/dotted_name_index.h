@@ -8,7 +8,7 @@
 
 #include "praxen/core/text.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 /// The place of a segment of a dotted name in a tree of names: the level it stands on and its text.
 struct NameSegment {
@@ -57,6 +57,6 @@ class DottedNameIndex {
   bool valid_ = true;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_MODEL_APPLICATION_DOTTED_NAME_INDEX_H_

@@ -5,8 +5,10 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ExecutionInstance>();
-template const ClassDescription& Describe<ExecutionGroup>();
-template const ClassDescription& Describe<ExecutionOrder>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ExecutionInstance>();
+template const ClassDescription& describe::Describe<ExecutionGroup>();
+template const ClassDescription& describe::Describe<ExecutionOrder>();
 
 }  // namespace praxen

@@ -6,16 +6,20 @@
 
 namespace praxen {
 
-class ExecutionInstance final : public Described<ExecutionInstance> {
+class ExecutionInstance final : public describe::Described<ExecutionInstance> {
  public:
   Text Name;
 
   static constexpr std::string_view kHelp = "An instance that a task executes.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&ExecutionInstance::Name>("Name of the instance; required for writing.")};
   }
-  static Layout layout() { return {.attributes = {required<&ExecutionInstance::Name>()}}; }
-  using Form = Creation<ExecutionInstance, &ExecutionInstance::Name>;
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.attributes = {required<&ExecutionInstance::Name>()}};
+  }
+  using Form = describe::Creation<ExecutionInstance, &ExecutionInstance::Name>;
 };
 
 class ExecutionGroup final
@@ -25,32 +29,38 @@ class ExecutionGroup final
 
   static constexpr std::string_view kHelp = "The instances that a task executes, in order.";
   static constexpr std::string_view kArgument = "chl";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return Members{property<&ExecutionGroup::TaskName>("Name of the task."), serialize()} +
            Collection::members();
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {always<&ExecutionGroup::TaskName>()},
             .elements = {choice<ExecutionInstance>()},
             .container = Container::Always};
   }
   static constexpr auto key() { return &ExecutionGroup::TaskName; }
-  using Form = Creation<ExecutionGroup, &ExecutionGroup::TaskName>;
+  using Form = describe::Creation<ExecutionGroup, &ExecutionGroup::TaskName>;
 };
 
 class ExecutionOrder final : public Collection<ExecutionOrder, ExecutionGroup, SerializableObject> {
  public:
   static constexpr std::string_view kHelp = "The instances that each task executes, in order.";
   static constexpr std::string_view kArgument = "chl";
-  static Members members() { return Members{serialize()} + Collection::members(); }
-  static Layout layout() {
+  static describe::Members members() {
+    using namespace describe;
+    return Members{serialize()} + Collection::members();
+  }
+  static describe::Layout layout() {
+    using namespace describe;
     return {.elements = {choice<ExecutionGroup>()}, .container = Container::Always};
   }
 };
 
-extern template const ClassDescription& Describe<ExecutionInstance>();
-extern template const ClassDescription& Describe<ExecutionOrder>();
-extern template const ClassDescription& Describe<ExecutionGroup>();
+extern template const describe::ClassDescription& describe::Describe<ExecutionInstance>();
+extern template const describe::ClassDescription& describe::Describe<ExecutionOrder>();
+extern template const describe::ClassDescription& describe::Describe<ExecutionGroup>();
 
 }  // namespace praxen
 

@@ -13,7 +13,7 @@ class VANamedProtocol;
 class VAAddressedProtocol;
 
 /// A protocol over which other systems reach variables. On its own it has no name and no variables.
-class IVAProtocol : public KindBase<IVAProtocol> {
+class IVAProtocol : public describe::KindBase<IVAProtocol> {
  public:
   IVAProtocol() = default;
 
@@ -23,10 +23,11 @@ class IVAProtocol : public KindBase<IVAProtocol> {
   virtual bool IsVAAddressedProtocol() const { return false; }
 
   /// Holds a protocol that is implemented outside the library.
-  static Ref<Object> Adapt(Interface* foreign);
+  static Ref<Object> Adapt(detail::Interface* foreign);
 
   static constexpr std::string_view kHelp = "A protocol over which other systems reach variables.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {accessors<&IVAProtocol::Name, &IVAProtocol::SetName>("Name", "Name of the protocol."),
             computed<&IVAProtocol::IsVANamedProtocol>("Whether it is a VANamedProtocol."),
             computed<&IVAProtocol::IsVAAddressedProtocol>("Whether it is a VAAddressedProtocol.")};
@@ -50,21 +51,23 @@ class VAProtocol : public Collection<Class, Variable, IVAProtocol> {
   bool IVAProtocol_IsVAAddressedProtocol() const { return IsVAAddressedProtocol(); }
 
   static constexpr std::string_view kArgument = "variable";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return Members{property<&Class::Name>("Name of the protocol.")} + List::members() +
            Members{computed<&VAProtocol::IVAProtocol_IsVANamedProtocol>(
                        "Whether it is a VANamedProtocol."),
                    computed<&VAProtocol::IVAProtocol_IsVAAddressedProtocol>(
                        "Whether it is a VAAddressedProtocol.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {always<&Class::Name>()},
             .elements = {choice<Variable>()},
             .container = Container::Always};
   }
 };
 
-extern template const ClassDescription& Describe<IVAProtocol>();
+extern template const describe::ClassDescription& describe::Describe<IVAProtocol>();
 
 }  // namespace praxen
 

@@ -6,6 +6,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 ProjectConstants::~ProjectConstants() { DropIndex(); }
 
 Ref<ProjectConstant> ProjectConstants::Add1(const Text& Name, const Text& PCType,
@@ -88,7 +90,7 @@ void ProjectConstants::ReadTree(XmlNode& cursor) {
   cursor = {};
 }
 
-template const ClassDescription& Describe<ProjectConstant>();
-template const ClassDescription& Describe<ProjectConstants>();
+template const ClassDescription& describe::Describe<ProjectConstant>();
+template const ClassDescription& describe::Describe<ProjectConstants>();
 
 }  // namespace praxen

@@ -9,10 +9,10 @@
 
 namespace praxen {
 
-class ProjectConstant final : public Described<ProjectConstant> {
+class ProjectConstant final : public describe::Described<ProjectConstant> {
  public:
   /// Dots separate the levels of groups, as in "Motor.Speed.Max".
-  ConstantName Name;
+  detail::ConstantName Name;
   Text PCType = u"dint"_text;
   Text Value = u"0"_text;
 
@@ -20,14 +20,16 @@ class ProjectConstant final : public Described<ProjectConstant> {
   void SetName(const Text& name) { Name = name; }
 
   static constexpr std::string_view kHelp = "A value that the whole project can use.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {accessors<&ProjectConstant::GetName, &ProjectConstant::SetName>(
-                EntityName<&ProjectConstant::Name>(), "Name with its groups, separated by dots."),
+                detail::EntityName<&ProjectConstant::Name>(),
+                "Name with its groups, separated by dots."),
             property<&ProjectConstant::PCType>("Data type."),
             property<&ProjectConstant::Value>("Value as text.")};
   }
-  using Form = Creation<ProjectConstant, asText<&ProjectConstant::Name>, &ProjectConstant::PCType,
-                        &ProjectConstant::Value>;
+  using Form = describe::Creation<ProjectConstant, describe::asText<&ProjectConstant::Name>,
+                                  &ProjectConstant::PCType, &ProjectConstant::Value>;
 };
 
 /// Written as a tree of groups.
@@ -42,12 +44,12 @@ class ProjectConstants final
   Ref<ProjectConstant> Add1(const Text& Name, const Text& PCType, const Text& Value);
 
   static constexpr std::string_view kHelp = "Project constants, in order.";
-  static Members members();
-  static Layout layout();
+  static describe::Members members();
+  static describe::Layout layout();
 
  private:
-  void WriteTree(XMLStringWriter& writer);
-  void ReadTree(XmlNode& cursor);
+  void WriteTree(detail::XMLStringWriter& writer);
+  void ReadTree(detail::XmlNode& cursor);
 
   void RequireFreeName(const Text& name);
   /// Indexes the constants; `name` is the one that is about to be tested.
@@ -57,11 +59,11 @@ class ProjectConstants final
   void ElementRemoved(Object* element) noexcept override;
 
   // The names of all constants; none before the first `Add1`, and while a reference is empty.
-  std::unique_ptr<DottedNameIndex> names_;
+  std::unique_ptr<detail::DottedNameIndex> names_;
 };
 
-extern template const ClassDescription& Describe<ProjectConstant>();
-extern template const ClassDescription& Describe<ProjectConstants>();
+extern template const describe::ClassDescription& describe::Describe<ProjectConstant>();
+extern template const describe::ClassDescription& describe::Describe<ProjectConstants>();
 
 }  // namespace praxen
 

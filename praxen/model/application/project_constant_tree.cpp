@@ -8,7 +8,7 @@
 #include "praxen/describe/xml_reading.h"
 #include "praxen/xml/xml_string_writer.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 namespace {
 
@@ -175,4 +175,4 @@ void intProjectConstants::ReadConstant(const Text& name, const XmlNode& node,
   list.Add(ProjectConstant::Form()(name, typeText, RequiredText(value)));
 }
 
-}  // namespace praxen
+}  // namespace praxen::detail

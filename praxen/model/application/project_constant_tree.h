@@ -12,7 +12,7 @@
 #include "praxen/model/application/project_constant.h"
 #include "praxen/xml/xml_document.h"
 
-namespace praxen {
+namespace praxen::detail {
 
 class XMLStringWriter;
 
@@ -97,6 +97,6 @@ class intProjectConstants {
   size_t name_characters_ = 0;
 };
 
-}  // namespace praxen
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_MODEL_APPLICATION_PROJECT_CONSTANT_TREE_H_

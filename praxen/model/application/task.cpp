@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<Task>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<Task>();
 
 }  // namespace praxen

@@ -8,7 +8,7 @@
 
 namespace praxen {
 
-class Task final : public Serializable<Task> {
+class Task final : public describe::Serializable<Task> {
  public:
   Text Name;
   int32_t IntervalTime = 1000;
@@ -21,7 +21,8 @@ class Task final : public Serializable<Task> {
   Text Guid;
 
   static constexpr std::string_view kHelp = "A cyclic activity that runs code of an application.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&Task::Name>("Name of the task; required for writing."),
         property<&Task::IntervalTime>("Time from one cycle to the next."),
@@ -35,18 +36,19 @@ class Task final : public Serializable<Task> {
         serialize(),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&Task::Name>(), always<&Task::IntervalTime>(),
                            always<&Task::Priority>(), always<&Task::Offset>(),
                            always<&Task::OutputUpdate>(), always<&Task::LatencySupervision>(),
                            always<&Task::LatencyPercentage>(), always<&Task::TaskSILLevel>(),
                            optional<&Task::Guid>()}};
   }
-  using Form = Creation<Task, &Task::Name, &Task::IntervalTime, &Task::Priority>;
-  using LongForm = Extended<Form, &Task::Offset, &Task::OutputUpdate>;
+  using Form = describe::Creation<Task, &Task::Name, &Task::IntervalTime, &Task::Priority>;
+  using LongForm = describe::Extended<Form, &Task::Offset, &Task::OutputUpdate>;
 };
 
-extern template const ClassDescription& Describe<Task>();
+extern template const describe::ClassDescription& describe::Describe<Task>();
 
 }  // namespace praxen
 

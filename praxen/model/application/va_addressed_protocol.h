@@ -13,10 +13,10 @@ class VAAddressedProtocol final : public VAProtocol<VAAddressedProtocol, VAAddre
 
   static constexpr std::string_view kHelp =
       "A protocol whose variables are published at addresses.";
-  using Form = Creation<VAAddressedProtocol, &VAAddressedProtocol::Name>;
+  using Form = describe::Creation<VAAddressedProtocol, &VAAddressedProtocol::Name>;
 };
 
-extern template const ClassDescription& Describe<VAAddressedProtocol>();
+extern template const describe::ClassDescription& describe::Describe<VAAddressedProtocol>();
 
 }  // namespace praxen
 

@@ -9,10 +9,10 @@ namespace praxen {
 class VAAddressedVariable final : public VAVariable<VAAddressedVariable> {
  public:
   static constexpr std::string_view kHelp = "A variable that is published at an address.";
-  using LongForm = Extended<Form, &VAAddressedVariable::Row>;
+  using LongForm = describe::Extended<Form, &VAAddressedVariable::Row>;
 };
 
-extern template const ClassDescription& Describe<VAAddressedVariable>();
+extern template const describe::ClassDescription& describe::Describe<VAAddressedVariable>();
 
 }  // namespace praxen
 

@@ -12,10 +12,10 @@ class VANamedProtocol final : public VAProtocol<VANamedProtocol, VANamedVariable
   Text Name;
 
   static constexpr std::string_view kHelp = "A protocol whose variables are published under names.";
-  using Form = Creation<VANamedProtocol, &VANamedProtocol::Name>;
+  using Form = describe::Creation<VANamedProtocol, &VANamedProtocol::Name>;
 };
 
-extern template const ClassDescription& Describe<VANamedProtocol>();
+extern template const describe::ClassDescription& describe::Describe<VANamedProtocol>();
 
 }  // namespace praxen
 

@@ -11,22 +11,24 @@ class VANamedVariable final : public VAVariable<VANamedVariable> {
   Text VAAttribute;
 
   static constexpr std::string_view kHelp = "A variable that is published under a name.";
-  static Members members() {
-    Members members = VAVariable::members();
+  static describe::Members members() {
+    using namespace describe;
+    describe::Members members = VAVariable::members();
     members.insert(members.begin() + 2, property<&VANamedVariable::VAAttribute>(
                                             "Attribute such as that of reading only."));
     return members;
   }
-  static Layout layout() {
-    Layout layout = VAVariable::layout();
+  static describe::Layout layout() {
+    using namespace describe;
+    describe::Layout layout = VAVariable::layout();
     layout.attributes.insert(layout.attributes.begin() + 2,
                              optional<&VANamedVariable::VAAttribute>(u"Attribute"));
     return layout;
   }
-  using LongForm = Extended<Form, &VANamedVariable::VAAttribute, &VANamedVariable::Row>;
+  using LongForm = describe::Extended<Form, &VANamedVariable::VAAttribute, &VANamedVariable::Row>;
 };
 
-extern template const ClassDescription& Describe<VANamedVariable>();
+extern template const describe::ClassDescription& describe::Describe<VANamedVariable>();
 
 }  // namespace praxen
 

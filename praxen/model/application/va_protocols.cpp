@@ -5,6 +5,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 namespace {
 
 template <auto Add, class Protocol>
@@ -34,11 +36,11 @@ Layout VAProtocols::layout() {
       .container = Container::None};
 }
 
-template const ClassDescription& Describe<IVAProtocol>();
-template const ClassDescription& Describe<VANamedVariable>();
-template const ClassDescription& Describe<VAAddressedVariable>();
-template const ClassDescription& Describe<VANamedProtocol>();
-template const ClassDescription& Describe<VAAddressedProtocol>();
-template const ClassDescription& Describe<VAProtocols>();
+template const ClassDescription& describe::Describe<IVAProtocol>();
+template const ClassDescription& describe::Describe<VANamedVariable>();
+template const ClassDescription& describe::Describe<VAAddressedVariable>();
+template const ClassDescription& describe::Describe<VANamedProtocol>();
+template const ClassDescription& describe::Describe<VAAddressedProtocol>();
+template const ClassDescription& describe::Describe<VAProtocols>();
 
 }  // namespace praxen

@@ -11,20 +11,20 @@ class VAProtocols final : public Collection<VAProtocols, IVAProtocol> {
  public:
   void AddVANamedProtocol(const Ref<VANamedProtocol>& protocol) { Add(protocol); }
   Ref<VANamedProtocol> AddVANamedProtocol1(const Text& Name) {
-    return Addition<VAProtocols, VANamedProtocol::Form>::Run(*this, Name);
+    return describe::Addition<VAProtocols, VANamedProtocol::Form>::Run(*this, Name);
   }
   void AddVAAddressedProtocol(const Ref<VAAddressedProtocol>& protocol) { Add(protocol); }
   Ref<VAAddressedProtocol> AddVAAddressedProtocol1(const Text& Name) {
-    return Addition<VAProtocols, VAAddressedProtocol::Form>::Run(*this, Name);
+    return describe::Addition<VAProtocols, VAAddressedProtocol::Form>::Run(*this, Name);
   }
 
   static constexpr std::string_view kHelp = "Protocols of both kinds, in order.";
   static constexpr std::string_view kArgument = "iva";
-  static Members members();
-  static Layout layout();
+  static describe::Members members();
+  static describe::Layout layout();
 };
 
-extern template const ClassDescription& Describe<VAProtocols>();
+extern template const describe::ClassDescription& describe::Describe<VAProtocols>();
 
 }  // namespace praxen
 

@@ -9,21 +9,23 @@ namespace praxen {
 
 /// A variable that other systems reach over a protocol.
 template <class Class>
-class VAVariable : public Described<Class> {
+class VAVariable : public describe::Described<Class> {
  public:
   Text Name, Path;
   Text VAType = u"Unknown"_text;
   int32_t Row = 0;
   ReadOnly<Text> VATypePath;
 
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&VAVariable::Name>("Name or address; required for writing."),
             property<&VAVariable::Path>("Path of the variable in the project."),
             property<&VAVariable::VAType>("Data type."), property<&VAVariable::Row>("Row."),
             property<&VAVariable::VATypePath>(
                 "Path of the data type, as the engineering tool found it.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&VAVariable::Name>(), always<&VAVariable::Path>(),
                            ReadIfPresent(unlessEmpty<&VAVariable::VAType>()),
                            ReadIfPresent(always<&VAVariable::Row>()),
@@ -37,7 +39,7 @@ class VAVariable : public Described<Class> {
   };
 
  public:
-  using Form = PreparedCreation<Class, UnknownType, &VAVariable::Name, &VAVariable::Path>;
+  using Form = describe::PreparedCreation<Class, UnknownType, &VAVariable::Name, &VAVariable::Path>;
 };
 
 }  // namespace praxen

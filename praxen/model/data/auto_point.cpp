@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<AutoPoint>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<AutoPoint>();
 
 }  // namespace praxen

@@ -7,22 +7,26 @@
 
 namespace praxen {
 
-class AutoPoint final : public Described<AutoPoint> {
+class AutoPoint final : public describe::Described<AutoPoint> {
  public:
   AutoPosValue AutoPos = pxRight;
 
   static constexpr std::string_view kHelp =
       "The side of a control module's graphics at which a parameter is connected.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&AutoPoint::AutoPos>("Side of the graphics."),
     };
   }
-  static Layout layout() { return {.attributes = {always<&AutoPoint::AutoPos>()}}; }
-  using Form = Creation<AutoPoint, &AutoPoint::AutoPos>;
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.attributes = {always<&AutoPoint::AutoPos>()}};
+  }
+  using Form = describe::Creation<AutoPoint, &AutoPoint::AutoPos>;
 };
 
-extern template const ClassDescription& Describe<AutoPoint>();
+extern template const describe::ClassDescription& describe::Describe<AutoPoint>();
 
 }  // namespace praxen
 

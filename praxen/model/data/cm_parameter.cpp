@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<CMParameter>();
-template const ClassDescription& Describe<CMParameters>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<CMParameter>();
+template const ClassDescription& describe::Describe<CMParameters>();
 
 }  // namespace praxen

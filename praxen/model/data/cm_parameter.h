@@ -7,7 +7,7 @@
 
 namespace praxen {
 
-class CMParameter final : public Serializable<CMParameter> {
+class CMParameter final : public describe::Serializable<CMParameter> {
  public:
   Text Name, TypeName, InitialValue, Description, ReadPermission, WritePermission;
   Text AuthenticationLevel = u"None"_text;
@@ -20,7 +20,8 @@ class CMParameter final : public Serializable<CMParameter> {
   Text FDPort = u"yes"_text;
 
   static constexpr std::string_view kHelp = "A parameter of a control module type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&CMParameter::Name>("Name of the parameter; required for writing."),
         property<&CMParameter::TypeName>("Data type; required for writing."),
@@ -45,7 +46,8 @@ class CMParameter final : public Serializable<CMParameter> {
             "Whether function diagrams show the parameter as a port; yes or no."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&CMParameter::Name>(), required<&CMParameter::TypeName>(u"Type"),
                        optional<&CMParameter::Direction>(), optional<&CMParameter::FDPort>(),
@@ -59,10 +61,10 @@ class CMParameter final : public Serializable<CMParameter> {
         .children = {text<&CMParameter::Description>(), object<&CMParameter::AutoPoint>(),
                      items<&CMParameter::GraphNodes>()}};
   }
-  using Form = Creation<CMParameter, &CMParameter::Name, &CMParameter::TypeName>;
-  using LongForm =
-      Extended<Form, &CMParameter::InitialValue, &CMParameter::ReadPermission,
-               &CMParameter::WritePermission, &CMParameter::Description, &CMParameter::AutoPoint>;
+  using Form = describe::Creation<CMParameter, &CMParameter::Name, &CMParameter::TypeName>;
+  using LongForm = describe::Extended<Form, &CMParameter::InitialValue,
+                                      &CMParameter::ReadPermission, &CMParameter::WritePermission,
+                                      &CMParameter::Description, &CMParameter::AutoPoint>;
 };
 
 class CMParameters final : public Collection<CMParameters, CMParameter> {
@@ -70,8 +72,8 @@ class CMParameters final : public Collection<CMParameters, CMParameter> {
   static constexpr std::string_view kHelp = "Parameters of a control module type, in order.";
 };
 
-extern template const ClassDescription& Describe<CMParameter>();
-extern template const ClassDescription& Describe<CMParameters>();
+extern template const describe::ClassDescription& describe::Describe<CMParameter>();
+extern template const describe::ClassDescription& describe::Describe<CMParameters>();
 
 }  // namespace praxen
 

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<CommVariable>();
-template const ClassDescription& Describe<CommVariables>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<CommVariable>();
+template const ClassDescription& describe::Describe<CommVariables>();
 
 }  // namespace praxen

@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class CommVariable final : public Serializable<CommVariable> {
+class CommVariable final : public describe::Serializable<CommVariable> {
  public:
   Text Name, TypeName;
   Text PXAttribute = u"retain"_text;
@@ -23,7 +23,8 @@ class CommVariable final : public Serializable<CommVariable> {
   Text AcknowledgeGroup;
 
   static constexpr std::string_view kHelp = "A variable that is communicated between controllers.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&CommVariable::Name>("Name of the variable; required for writing."),
         property<&CommVariable::TypeName>("Data type; required for writing."),
@@ -52,7 +53,8 @@ class CommVariable final : public Serializable<CommVariable> {
         property<&CommVariable::AcknowledgeGroup>("Group in which the variable is acknowledged."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&CommVariable::Name>(), required<&CommVariable::TypeName>(u"Type"),
                        always<&CommVariable::PXAttribute>(u"Attribute"),
@@ -66,12 +68,12 @@ class CommVariable final : public Serializable<CommVariable> {
                        readOnly<&CommVariable::TypeGuid>(), readOnly<&CommVariable::TypePath>()},
         .children = {text<&CommVariable::Description>()}};
   }
-  using Form = Creation<CommVariable, &CommVariable::Name, &CommVariable::TypeName,
-                        &CommVariable::Direction>;
-  using LongForm =
-      Extended<Form, &CommVariable::PXAttribute, &CommVariable::InitialValue,
-               &CommVariable::ISPValue, &CommVariable::Priority, &CommVariable::IntervalTime,
-               &CommVariable::ReadPermission, &CommVariable::Description>;
+  using Form = describe::Creation<CommVariable, &CommVariable::Name, &CommVariable::TypeName,
+                                  &CommVariable::Direction>;
+  using LongForm = describe::Extended<Form, &CommVariable::PXAttribute, &CommVariable::InitialValue,
+                                      &CommVariable::ISPValue, &CommVariable::Priority,
+                                      &CommVariable::IntervalTime, &CommVariable::ReadPermission,
+                                      &CommVariable::Description>;
 };
 
 class CommVariables final : public Collection<CommVariables, CommVariable> {
@@ -79,8 +81,8 @@ class CommVariables final : public Collection<CommVariables, CommVariable> {
   static constexpr std::string_view kHelp = "Communication variables, in order.";
 };
 
-extern template const ClassDescription& Describe<CommVariable>();
-extern template const ClassDescription& Describe<CommVariables>();
+extern template const describe::ClassDescription& describe::Describe<CommVariable>();
+extern template const describe::ClassDescription& describe::Describe<CommVariables>();
 
 }  // namespace praxen
 

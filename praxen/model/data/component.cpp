@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<Component>();
-template const ClassDescription& Describe<Components>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<Component>();
+template const ClassDescription& describe::Describe<Components>();
 
 }  // namespace praxen

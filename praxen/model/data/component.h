@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class Component final : public Described<Component> {
+class Component final : public describe::Described<Component> {
  public:
   Text Name, TypeName;
   Text PXAttribute = u"retain"_text;
@@ -17,7 +17,8 @@ class Component final : public Described<Component> {
   Text AccessLevel, SafetyType, ISPValue;
 
   static constexpr std::string_view kHelp = "A component of a structured data type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&Component::Name>("Name of the component; required for writing."),
         property<&Component::TypeName>("Data type; required for writing."),
@@ -34,7 +35,8 @@ class Component final : public Described<Component> {
         property<&Component::ISPValue>("Value that is used when the communication fails."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&Component::Name>(), required<&Component::TypeName>(u"Type"),
                            always<&Component::PXAttribute>(u"Attribute"),
                            optional<&Component::InitialValue>(), optional<&Component::ISPValue>(),
@@ -45,9 +47,9 @@ class Component final : public Described<Component> {
                            optional<&Component::AccessLevel>(), optional<&Component::SafetyType>()},
             .children = {strictText<&Component::Description>()}};
   }
-  using Form = Creation<Component, &Component::Name, &Component::TypeName>;
-  using LongForm =
-      Extended<Form, &Component::PXAttribute, &Component::InitialValue, &Component::Description>;
+  using Form = describe::Creation<Component, &Component::Name, &Component::TypeName>;
+  using LongForm = describe::Extended<Form, &Component::PXAttribute, &Component::InitialValue,
+                                      &Component::Description>;
 };
 
 class Components final : public Collection<Components, Component> {
@@ -55,8 +57,8 @@ class Components final : public Collection<Components, Component> {
   static constexpr std::string_view kHelp = "Components of a data type, in order.";
 };
 
-extern template const ClassDescription& Describe<Component>();
-extern template const ClassDescription& Describe<Components>();
+extern template const describe::ClassDescription& describe::Describe<Component>();
+extern template const describe::ClassDescription& describe::Describe<Components>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<DataType>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<DataType>();
 
 }  // namespace praxen

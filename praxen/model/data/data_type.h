@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class DataType final : public Serializable<DataType> {
+class DataType final : public describe::Serializable<DataType> {
  public:
   Text Name;
   bool Protected = false, Hidden = false;
@@ -15,7 +15,8 @@ class DataType final : public Serializable<DataType> {
   Ref<praxen::Components> Components = New<praxen::Components>();
 
   static constexpr std::string_view kHelp = "A structured data type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&DataType::Name>("Name of the data type; required for writing."),
         property<&DataType::Protected>("Whether the type is protected."),
@@ -28,16 +29,18 @@ class DataType final : public Serializable<DataType> {
         serialize(),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = POUHeader<DataType>(
                 {optional<&DataType::Guid>(), optional<&DataType::ReservedByFunction>()}),
             .children = {list<&DataType::Components>(), strictText<&DataType::Description>()}};
   }
-  using Form = Creation<DataType, &DataType::Name, &DataType::Description>;
-  using LongForm = Extended<Form, &DataType::Protected, &DataType::Hidden, &DataType::Scope>;
+  using Form = describe::Creation<DataType, &DataType::Name, &DataType::Description>;
+  using LongForm =
+      describe::Extended<Form, &DataType::Protected, &DataType::Hidden, &DataType::Scope>;
 };
 
-extern template const ClassDescription& Describe<DataType>();
+extern template const describe::ClassDescription& describe::Describe<DataType>();
 
 }  // namespace praxen
 

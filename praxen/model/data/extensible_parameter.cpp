@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ExtensibleParameter>();
-template const ClassDescription& Describe<ExtensibleParameters>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ExtensibleParameter>();
+template const ClassDescription& describe::Describe<ExtensibleParameters>();
 
 }  // namespace praxen

@@ -7,7 +7,7 @@
 
 namespace praxen {
 
-class ExtensibleParameter final : public Serializable<ExtensibleParameter> {
+class ExtensibleParameter final : public describe::Serializable<ExtensibleParameter> {
  public:
   Text Name, TypeName;
   Text PXAttribute = u"retain"_text;
@@ -18,7 +18,8 @@ class ExtensibleParameter final : public Serializable<ExtensibleParameter> {
 
   static constexpr std::string_view kHelp =
       "A parameter of a function block type that instances can repeat.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&ExtensibleParameter::Name>("Name of the parameter; required for writing."),
         property<&ExtensibleParameter::TypeName>("Data type; required for writing."),
@@ -37,7 +38,8 @@ class ExtensibleParameter final : public Serializable<ExtensibleParameter> {
             "Whether function diagrams show the parameter as a port; yes or no."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&ExtensibleParameter::Name>(),
                            required<&ExtensibleParameter::TypeName>(u"Type"),
                            always<&ExtensibleParameter::PXAttribute>(u"Attribute"),
@@ -50,11 +52,11 @@ class ExtensibleParameter final : public Serializable<ExtensibleParameter> {
                            optional<&ExtensibleParameter::SafetyType>()},
             .children = {strictText<&ExtensibleParameter::Description>()}};
   }
-  using Form =
-      Creation<ExtensibleParameter, &ExtensibleParameter::Name, &ExtensibleParameter::TypeName>;
+  using Form = describe::Creation<ExtensibleParameter, &ExtensibleParameter::Name,
+                                  &ExtensibleParameter::TypeName>;
   using LongForm =
-      Extended<Form, &ExtensibleParameter::PXAttribute, &ExtensibleParameter::Direction,
-               &ExtensibleParameter::InitialValue, &ExtensibleParameter::Description>;
+      describe::Extended<Form, &ExtensibleParameter::PXAttribute, &ExtensibleParameter::Direction,
+                         &ExtensibleParameter::InitialValue, &ExtensibleParameter::Description>;
 };
 
 class ExtensibleParameters final : public Collection<ExtensibleParameters, ExtensibleParameter> {
@@ -62,8 +64,8 @@ class ExtensibleParameters final : public Collection<ExtensibleParameters, Exten
   static constexpr std::string_view kHelp = "Extensible parameters, in order.";
 };
 
-extern template const ClassDescription& Describe<ExtensibleParameter>();
-extern template const ClassDescription& Describe<ExtensibleParameters>();
+extern template const describe::ClassDescription& describe::Describe<ExtensibleParameter>();
+extern template const describe::ClassDescription& describe::Describe<ExtensibleParameters>();
 
 }  // namespace praxen
 

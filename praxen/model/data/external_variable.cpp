@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ExternalVariable>();
-template const ClassDescription& Describe<ExternalVariables>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ExternalVariable>();
+template const ClassDescription& describe::Describe<ExternalVariables>();
 
 }  // namespace praxen

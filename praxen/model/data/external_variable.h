@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class ExternalVariable final : public Serializable<ExternalVariable> {
+class ExternalVariable final : public describe::Serializable<ExternalVariable> {
  public:
   Text Name, TypeName, PXAttribute, Description, ReadPermission, WritePermission;
   Text AuthenticationLevel = u"None"_text;
@@ -15,7 +15,8 @@ class ExternalVariable final : public Serializable<ExternalVariable> {
   Text AccessLevel, SafetyType;
 
   static constexpr std::string_view kHelp = "A variable declared outside the type that uses it.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&ExternalVariable::Name>("Name of the variable; required for writing."),
         property<&ExternalVariable::TypeName>("Data type; required for writing."),
@@ -34,7 +35,8 @@ class ExternalVariable final : public Serializable<ExternalVariable> {
         property<&ExternalVariable::SafetyType>("Safety type."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&ExternalVariable::Name>(),
                            required<&ExternalVariable::TypeName>(u"Type"),
                            always<&ExternalVariable::PXAttribute>(u"Attribute"),
@@ -48,9 +50,11 @@ class ExternalVariable final : public Serializable<ExternalVariable> {
             .children = {text<&ExternalVariable::Description>(),
                          items<&ExternalVariable::GraphNodes>()}};
   }
-  using Form = Creation<ExternalVariable, &ExternalVariable::Name, &ExternalVariable::TypeName>;
-  using LongForm = Extended<Form, &ExternalVariable::PXAttribute, &ExternalVariable::ReadPermission,
-                            &ExternalVariable::WritePermission, &ExternalVariable::Description>;
+  using Form =
+      describe::Creation<ExternalVariable, &ExternalVariable::Name, &ExternalVariable::TypeName>;
+  using LongForm =
+      describe::Extended<Form, &ExternalVariable::PXAttribute, &ExternalVariable::ReadPermission,
+                         &ExternalVariable::WritePermission, &ExternalVariable::Description>;
 };
 
 class ExternalVariables final : public Collection<ExternalVariables, ExternalVariable> {
@@ -58,8 +62,8 @@ class ExternalVariables final : public Collection<ExternalVariables, ExternalVar
   static constexpr std::string_view kHelp = "External variables, in order.";
 };
 
-extern template const ClassDescription& Describe<ExternalVariable>();
-extern template const ClassDescription& Describe<ExternalVariables>();
+extern template const describe::ClassDescription& describe::Describe<ExternalVariable>();
+extern template const describe::ClassDescription& describe::Describe<ExternalVariables>();
 
 }  // namespace praxen
 

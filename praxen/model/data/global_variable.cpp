@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<GlobalVariable>();
-template const ClassDescription& Describe<GlobalVariables>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<GlobalVariable>();
+template const ClassDescription& describe::Describe<GlobalVariables>();
 
 }  // namespace praxen

@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class GlobalVariable final : public Serializable<GlobalVariable> {
+class GlobalVariable final : public describe::Serializable<GlobalVariable> {
  public:
   Text Name, TypeName;
   Text PXAttribute = u"retain"_text;
@@ -17,7 +17,8 @@ class GlobalVariable final : public Serializable<GlobalVariable> {
   Text AccessLevel, SafetyType;
 
   static constexpr std::string_view kHelp = "A global variable of an application.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&GlobalVariable::Name>("Name of the variable; required for writing."),
         property<&GlobalVariable::TypeName>("Data type; required for writing."),
@@ -37,7 +38,8 @@ class GlobalVariable final : public Serializable<GlobalVariable> {
         property<&GlobalVariable::SafetyType>("Safety type."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&GlobalVariable::Name>(),
                        required<&GlobalVariable::TypeName>(u"Type"),
@@ -51,10 +53,11 @@ class GlobalVariable final : public Serializable<GlobalVariable> {
                        optional<&GlobalVariable::SafetyType>()},
         .children = {text<&GlobalVariable::Description>(), items<&GlobalVariable::GraphNodes>()}};
   }
-  using Form = Creation<GlobalVariable, &GlobalVariable::Name, &GlobalVariable::TypeName>;
-  using LongForm = Extended<Form, &GlobalVariable::PXAttribute, &GlobalVariable::InitialValue,
-                            &GlobalVariable::ReadPermission, &GlobalVariable::WritePermission,
-                            &GlobalVariable::Description>;
+  using Form = describe::Creation<GlobalVariable, &GlobalVariable::Name, &GlobalVariable::TypeName>;
+  using LongForm =
+      describe::Extended<Form, &GlobalVariable::PXAttribute, &GlobalVariable::InitialValue,
+                         &GlobalVariable::ReadPermission, &GlobalVariable::WritePermission,
+                         &GlobalVariable::Description>;
 };
 
 class GlobalVariables final : public Collection<GlobalVariables, GlobalVariable> {
@@ -62,8 +65,8 @@ class GlobalVariables final : public Collection<GlobalVariables, GlobalVariable>
   static constexpr std::string_view kHelp = "Global variables, in order.";
 };
 
-extern template const ClassDescription& Describe<GlobalVariable>();
-extern template const ClassDescription& Describe<GlobalVariables>();
+extern template const describe::ClassDescription& describe::Describe<GlobalVariable>();
+extern template const describe::ClassDescription& describe::Describe<GlobalVariables>();
 
 }  // namespace praxen
 

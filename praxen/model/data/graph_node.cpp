@@ -4,7 +4,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<GraphNode>();
-template const ClassDescription& Describe<GraphNodes>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<GraphNode>();
+template const ClassDescription& describe::Describe<GraphNodes>();
 
 }  // namespace praxen

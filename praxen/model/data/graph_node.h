@@ -6,34 +6,37 @@
 
 namespace praxen {
 
-class GraphNode final : public Described<GraphNode> {
+class GraphNode final : public describe::Described<GraphNode> {
  public:
   Text Name;
   double X = 0, Y = 0;
 
   static constexpr std::string_view kHelp = "A named point of a variable or parameter.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&GraphNode::Name>("Name of the node."),
             property<&GraphNode::X>("Horizontal coordinate."),
             property<&GraphNode::Y>("Vertical coordinate.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {always<&GraphNode::Name>(), always<&GraphNode::X>(),
                            always<&GraphNode::Y>()}};
   }
-  using Form = Creation<GraphNode, &GraphNode::Name, &GraphNode::X, &GraphNode::Y>;
+  using Form = describe::Creation<GraphNode, &GraphNode::Name, &GraphNode::X, &GraphNode::Y>;
 };
 
 class GraphNodes final : public Collection<GraphNodes, GraphNode> {
  public:
   static constexpr std::string_view kHelp = "The graph nodes of a variable or parameter.";
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.elements = {choice<GraphNode>()}, .container = Container::None};
   }
 };
 
-extern template const ClassDescription& Describe<GraphNode>();
-extern template const ClassDescription& Describe<GraphNodes>();
+extern template const describe::ClassDescription& describe::Describe<GraphNode>();
+extern template const describe::ClassDescription& describe::Describe<GraphNodes>();
 
 }  // namespace praxen
 

@@ -5,8 +5,10 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<InitValue>();
-template const ClassDescription& Describe<InitValues>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<InitValue>();
+template const ClassDescription& describe::Describe<InitValues>();
 
 Ref<InitValue> InitValues::Find(const Text& POUPath, const Text& Name) const {
   const int32_t position = FindNr(POUPath, Name);

@@ -6,12 +6,13 @@
 
 namespace praxen {
 
-class InitValue final : public Serializable<InitValue> {
+class InitValue final : public describe::Serializable<InitValue> {
  public:
   Text POUPath, Name, Value;
 
   static constexpr std::string_view kHelp = "The value with which one variable of a unit starts.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&InitValue::POUPath>("Path of the unit that holds the variable."),
         property<&InitValue::Name>("Name of the variable; required for writing."),
@@ -19,11 +20,13 @@ class InitValue final : public Serializable<InitValue> {
         serialize(),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {optional<&InitValue::POUPath>(), required<&InitValue::Name>(),
                            always<&InitValue::Value>()}};
   }
-  using Form = Creation<InitValue, &InitValue::POUPath, &InitValue::Name, &InitValue::Value>;
+  using Form =
+      describe::Creation<InitValue, &InitValue::POUPath, &InitValue::Name, &InitValue::Value>;
 };
 
 class InitValues final : public Collection<InitValues, InitValue> {
@@ -35,9 +38,10 @@ class InitValues final : public Collection<InitValues, InitValue> {
   /// The position of the first initial value of that variable; -1 when there is none.
   int32_t FindNr(const Text& POUPath, const Text& Name) const;
 
-  static Members members() {
-    const std::vector<std::string_view> keys{EntityName<&InitValue::POUPath>(),
-                                             EntityName<&InitValue::Name>()};
+  static describe::Members members() {
+    using namespace describe;
+    const std::vector<std::string_view> keys{detail::EntityName<&InitValue::POUPath>(),
+                                             detail::EntityName<&InitValue::Name>()};
     return additions() +
            Members{method<&InitValues::Find>(
                        "The first initial value of that variable, or nothing.", keys),
@@ -47,8 +51,8 @@ class InitValues final : public Collection<InitValues, InitValue> {
   }
 };
 
-extern template const ClassDescription& Describe<InitValue>();
-extern template const ClassDescription& Describe<InitValues>();
+extern template const describe::ClassDescription& describe::Describe<InitValue>();
+extern template const describe::ClassDescription& describe::Describe<InitValues>();
 
 }  // namespace praxen
 

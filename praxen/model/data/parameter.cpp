@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<Parameter>();
-template const ClassDescription& Describe<Parameters>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<Parameter>();
+template const ClassDescription& describe::Describe<Parameters>();
 
 }  // namespace praxen

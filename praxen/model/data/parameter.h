@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class Parameter final : public Serializable<Parameter> {
+class Parameter final : public describe::Serializable<Parameter> {
  public:
   Text Name, TypeName;
   Text PXAttribute = u"retain"_text;
@@ -18,7 +18,8 @@ class Parameter final : public Serializable<Parameter> {
   Text FDPort = u"yes"_text;
 
   static constexpr std::string_view kHelp = "A parameter of a function block type or diagram type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&Parameter::Name>("Name of the parameter; required for writing."),
         property<&Parameter::TypeName>("Data type; required for writing."),
@@ -38,7 +39,8 @@ class Parameter final : public Serializable<Parameter> {
             "Whether function diagrams show the parameter as a port; yes or no."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&Parameter::Name>(), required<&Parameter::TypeName>(u"Type"),
                        always<&Parameter::PXAttribute>(u"Attribute"),
@@ -50,10 +52,10 @@ class Parameter final : public Serializable<Parameter> {
                        optional<&Parameter::AccessLevel>(), optional<&Parameter::SafetyType>()},
         .children = {strictText<&Parameter::Description>()}};
   }
-  using Form = Creation<Parameter, &Parameter::Name, &Parameter::TypeName>;
-  using LongForm =
-      Extended<Form, &Parameter::PXAttribute, &Parameter::Direction, &Parameter::InitialValue,
-               &Parameter::ReadPermission, &Parameter::WritePermission, &Parameter::Description>;
+  using Form = describe::Creation<Parameter, &Parameter::Name, &Parameter::TypeName>;
+  using LongForm = describe::Extended<Form, &Parameter::PXAttribute, &Parameter::Direction,
+                                      &Parameter::InitialValue, &Parameter::ReadPermission,
+                                      &Parameter::WritePermission, &Parameter::Description>;
 };
 
 class Parameters final : public Collection<Parameters, Parameter> {
@@ -61,8 +63,8 @@ class Parameters final : public Collection<Parameters, Parameter> {
   static constexpr std::string_view kHelp = "Parameters, in order.";
 };
 
-extern template const ClassDescription& Describe<Parameter>();
-extern template const ClassDescription& Describe<Parameters>();
+extern template const describe::ClassDescription& describe::Describe<Parameter>();
+extern template const describe::ClassDescription& describe::Describe<Parameters>();
 
 }  // namespace praxen
 

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<Signal>();
-template const ClassDescription& Describe<Signals>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<Signal>();
+template const ClassDescription& describe::Describe<Signals>();
 
 }  // namespace praxen

@@ -6,14 +6,15 @@
 
 namespace praxen {
 
-class Signal final : public Serializable<Signal> {
+class Signal final : public describe::Serializable<Signal> {
  public:
   Text Name, Path;
   Text Direction = u"in"_text;
   Text AcknowledgeGroup, Description;
 
   static constexpr std::string_view kHelp = "A named signal of a unit or application.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&Signal::Name>("Name of the signal; required for writing."),
         property<&Signal::Path>("Path of the signal."),
@@ -23,13 +24,14 @@ class Signal final : public Serializable<Signal> {
         serialize(),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&Signal::Name>(), always<&Signal::Path>(),
                            always<&Signal::Direction>(), optional<&Signal::AcknowledgeGroup>()},
             .children = {text<&Signal::Description>()}};
   }
-  using Form = Creation<Signal, &Signal::Name, &Signal::Path, &Signal::Direction,
-                        anyValue<&Signal::AcknowledgeGroup>>;
+  using Form = describe::Creation<Signal, &Signal::Name, &Signal::Path, &Signal::Direction,
+                                  describe::anyValue<&Signal::AcknowledgeGroup>>;
 };
 
 class Signals final : public Collection<Signals, Signal> {
@@ -37,8 +39,8 @@ class Signals final : public Collection<Signals, Signal> {
   static constexpr std::string_view kHelp = "Signals, in order.";
 };
 
-extern template const ClassDescription& Describe<Signal>();
-extern template const ClassDescription& Describe<Signals>();
+extern template const describe::ClassDescription& describe::Describe<Signal>();
+extern template const describe::ClassDescription& describe::Describe<Signals>();
 
 }  // namespace praxen
 

@@ -4,7 +4,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<Variable>();
-template const ClassDescription& Describe<Variables>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<Variable>();
+template const ClassDescription& describe::Describe<Variables>();
 
 }  // namespace praxen

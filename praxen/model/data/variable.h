@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class Variable final : public Serializable<Variable> {
+class Variable final : public describe::Serializable<Variable> {
  public:
   Text Name, TypeName;
   Text PXAttribute = u"retain"_text;
@@ -18,7 +18,8 @@ class Variable final : public Serializable<Variable> {
   Text AccessLevel, SafetyType;
 
   static constexpr std::string_view kHelp = "A variable of a unit or application.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&Variable::Name>("Name of the variable; required for writing."),
         property<&Variable::TypeName>("Data type; required for writing."),
@@ -37,7 +38,8 @@ class Variable final : public Serializable<Variable> {
         property<&Variable::SafetyType>("Safety type."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&Variable::Name>(), required<&Variable::TypeName>(u"Type"),
                        always<&Variable::PXAttribute>(u"Attribute"),
@@ -48,10 +50,10 @@ class Variable final : public Serializable<Variable> {
                        optional<&Variable::AccessLevel>(), optional<&Variable::SafetyType>()},
         .children = {text<&Variable::Description>(), items<&Variable::GraphNodes>()}};
   }
-  using Form = Creation<Variable, &Variable::Name, &Variable::TypeName>;
-  using LongForm =
-      Extended<Form, &Variable::PXAttribute, &Variable::InitialValue, &Variable::ReadPermission,
-               &Variable::WritePermission, &Variable::Description>;
+  using Form = describe::Creation<Variable, &Variable::Name, &Variable::TypeName>;
+  using LongForm = describe::Extended<Form, &Variable::PXAttribute, &Variable::InitialValue,
+                                      &Variable::ReadPermission, &Variable::WritePermission,
+                                      &Variable::Description>;
 };
 
 class Variables final : public Collection<Variables, Variable> {
@@ -60,8 +62,8 @@ class Variables final : public Collection<Variables, Variable> {
   static constexpr std::string_view kArgument = "var";
 };
 
-extern template const ClassDescription& Describe<Variable>();
-extern template const ClassDescription& Describe<Variables>();
+extern template const describe::ClassDescription& describe::Describe<Variable>();
+extern template const describe::ClassDescription& describe::Describe<Variables>();
 
 }  // namespace praxen
 

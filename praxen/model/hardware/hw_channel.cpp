@@ -7,6 +7,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 namespace {
 
 constexpr std::u16string_view kConnection = u"ConVariable";
@@ -43,7 +45,7 @@ void HWChannel::ReadConnection(XmlNode& cursor) {
   cursor = cursor.nextSibling();
 }
 
-template const ClassDescription& Describe<HWChannel>();
-template const ClassDescription& Describe<HWChannels>();
+template const ClassDescription& describe::Describe<HWChannel>();
+template const ClassDescription& describe::Describe<HWChannels>();
 
 }  // namespace praxen

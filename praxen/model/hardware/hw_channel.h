@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class HWChannel final : public Described<HWChannel> {
+class HWChannel final : public describe::Described<HWChannel> {
  public:
   Text Name, Address, Min, Max, Unit, Fraction;
   bool Reversed = false;
@@ -15,7 +15,8 @@ class HWChannel final : public Described<HWChannel> {
   bool IsSignal = false;
 
   static constexpr std::string_view kHelp = "An input or output channel of a hardware unit.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&HWChannel::Name>("Name of the channel; required for writing."),
         property<&HWChannel::Address>("Address of the channel; required for writing."),
@@ -30,16 +31,16 @@ class HWChannel final : public Described<HWChannel> {
         property<&HWChannel::IsSignal>("Whether a signal is connected instead of a variable."),
     };
   }
-  static Layout layout();
+  static describe::Layout layout();
   static constexpr auto key() { return &HWChannel::Address; }
-  using Form = Creation<HWChannel, &HWChannel::Address, &HWChannel::Name, &HWChannel::ConVariable,
-                        &HWChannel::IODescription>;
-  using LongForm = Extended<Form, &HWChannel::Min, &HWChannel::Max, &HWChannel::Unit,
-                            &HWChannel::Fraction, &HWChannel::Reversed>;
+  using Form = describe::Creation<HWChannel, &HWChannel::Address, &HWChannel::Name,
+                                  &HWChannel::ConVariable, &HWChannel::IODescription>;
+  using LongForm = describe::Extended<Form, &HWChannel::Min, &HWChannel::Max, &HWChannel::Unit,
+                                      &HWChannel::Fraction, &HWChannel::Reversed>;
 
  private:
-  void WriteConnection(XMLStringWriter& writer);
-  void ReadConnection(XmlNode& cursor);
+  void WriteConnection(detail::XMLStringWriter& writer);
+  void ReadConnection(detail::XmlNode& cursor);
 };
 
 class HWChannels final : public Collection<HWChannels, HWChannel> {
@@ -48,8 +49,8 @@ class HWChannels final : public Collection<HWChannels, HWChannel> {
   static constexpr std::string_view kArgument = "hwc";
 };
 
-extern template const ClassDescription& Describe<HWChannel>();
-extern template const ClassDescription& Describe<HWChannels>();
+extern template const describe::ClassDescription& describe::Describe<HWChannel>();
+extern template const describe::ClassDescription& describe::Describe<HWChannels>();
 
 }  // namespace praxen
 

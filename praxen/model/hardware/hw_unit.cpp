@@ -5,6 +5,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 Ref<HWUnit> HWUnits::Add3(const Text& Path, const Text& TypeID, const Text& TypeDescription,
                           const Text& Guid, const Text& TypeGuid) {
   return Addition<HWUnits, HWUnit::FullForm>::Run(*this, Path, TypeID, TypeDescription, Guid,
@@ -19,9 +21,9 @@ Layout HWUnits::layout() {
   return {.elements = {choice<HWUnit>()}, .container = Container::Always};
 }
 
-template const ClassDescription& Describe<ParameterSetting>();
-template const ClassDescription& Describe<ParameterSettings>();
-template const ClassDescription& Describe<HWUnit>();
-template const ClassDescription& Describe<HWUnits>();
+template const ClassDescription& describe::Describe<ParameterSetting>();
+template const ClassDescription& describe::Describe<ParameterSettings>();
+template const ClassDescription& describe::Describe<HWUnit>();
+template const ClassDescription& describe::Describe<HWUnits>();
 
 }  // namespace praxen

@@ -10,7 +10,7 @@ namespace praxen {
 class HWUnits;
 
 /// Units form a tree: one that stands somewhere below itself cannot be written.
-class HWUnit final : public Serializable<HWUnit> {
+class HWUnit final : public describe::Serializable<HWUnit> {
  public:
   Text Path, TypeID, TypeDescription, Guid, RedundantPos;
   bool HWSimulation = false, HWSimulationSupported = false;
@@ -21,7 +21,8 @@ class HWUnit final : public Serializable<HWUnit> {
   Text TypeGuid, InstanceName;
 
   static constexpr std::string_view kHelp = "A unit of the hardware configuration.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&HWUnit::Path>("Position in the hardware tree; required for writing."),
         property<&HWUnit::TypeID>("Identifier of the type."),
@@ -39,7 +40,8 @@ class HWUnit final : public Serializable<HWUnit> {
         property<&HWUnit::InstanceName>("Name of the unit."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&HWUnit::Path>(), always<&HWUnit::TypeID>(),
                        always<&HWUnit::TypeDescription>(), optional<&HWUnit::Guid>(),
@@ -51,9 +53,10 @@ class HWUnit final : public Serializable<HWUnit> {
                      list<&HWUnit::HWUnits>()}};
   }
   static constexpr auto key() { return &HWUnit::Path; }
-  using Form = Creation<HWUnit, &HWUnit::Path>;
-  using LongForm = Extended<Form, &HWUnit::TypeID, &HWUnit::TypeDescription, &HWUnit::Guid>;
-  using FullForm = Extended<LongForm, &HWUnit::TypeGuid>;
+  using Form = describe::Creation<HWUnit, &HWUnit::Path>;
+  using LongForm =
+      describe::Extended<Form, &HWUnit::TypeID, &HWUnit::TypeDescription, &HWUnit::Guid>;
+  using FullForm = describe::Extended<LongForm, &HWUnit::TypeGuid>;
 };
 
 class HWUnits final : public Collection<HWUnits, HWUnit> {
@@ -63,12 +66,12 @@ class HWUnits final : public Collection<HWUnits, HWUnit> {
 
   static constexpr std::string_view kHelp = "Hardware units, in order.";
   static constexpr std::string_view kArgument = "hwu";
-  static Members members();
-  static Layout layout();
+  static describe::Members members();
+  static describe::Layout layout();
 };
 
-extern template const ClassDescription& Describe<HWUnits>();
-extern template const ClassDescription& Describe<HWUnit>();
+extern template const describe::ClassDescription& describe::Describe<HWUnits>();
+extern template const describe::ClassDescription& describe::Describe<HWUnit>();
 
 }  // namespace praxen
 

@@ -6,38 +6,41 @@
 
 namespace praxen {
 
-class ParameterSetting final : public Described<ParameterSetting> {
+class ParameterSetting final : public describe::Described<ParameterSetting> {
  public:
   Text Name, ParameterValue;
   ReadOnly<Text> Description;
 
   static constexpr std::string_view kHelp = "The value of a parameter of a hardware unit.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&ParameterSetting::Name>("Name of the parameter; required for writing."),
             property<&ParameterSetting::ParameterValue>("Value of the parameter."),
             property<&ParameterSetting::Description>(
                 "Meaning of the parameter, as the engineering tool tells it.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&ParameterSetting::Name>(),
                            always<&ParameterSetting::ParameterValue>(u"Value"),
                            readOnly<&ParameterSetting::Description>()}};
   }
-  using Form =
-      Creation<ParameterSetting, &ParameterSetting::Name, &ParameterSetting::ParameterValue>;
+  using Form = describe::Creation<ParameterSetting, &ParameterSetting::Name,
+                                  &ParameterSetting::ParameterValue>;
 };
 
 class ParameterSettings final : public Collection<ParameterSettings, ParameterSetting> {
  public:
   static constexpr std::string_view kHelp = "The parameter settings of a hardware unit, in order.";
   static constexpr std::string_view kArgument = "par";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return Members{add(), creation<ParameterSetting::Form>("Add1")} + lookups() + positions();
   }
 };
 
-extern template const ClassDescription& Describe<ParameterSetting>();
-extern template const ClassDescription& Describe<ParameterSettings>();
+extern template const describe::ClassDescription& describe::Describe<ParameterSetting>();
+extern template const describe::ClassDescription& describe::Describe<ParameterSettings>();
 
 }  // namespace praxen
 

@@ -12,11 +12,17 @@ class ErrorMsg final : public NumberedMsg<ErrorMsg> {
 
   static constexpr std::string_view kHelp = "An error that the engineering tool reports.";
   static constexpr const char16_t* kElement = u"Error";
-  static Members members() { return numbered<&ErrorMsg::ErrorNo>("Number of the error."); }
-  static Layout layout() { return numbered<&ErrorMsg::ErrorNo>(); }
+  static describe::Members members() {
+    using namespace describe;
+    return numbered<&ErrorMsg::ErrorNo>("Number of the error.");
+  }
+  static describe::Layout layout() {
+    using namespace describe;
+    return numbered<&ErrorMsg::ErrorNo>();
+  }
 };
 
-extern template const ClassDescription& Describe<ErrorMsg>();
+extern template const describe::ClassDescription& describe::Describe<ErrorMsg>();
 
 }  // namespace praxen
 

@@ -7,7 +7,7 @@
 
 namespace praxen {
 
-class ExtraInfo final : public Described<ExtraInfo> {
+class ExtraInfo final : public describe::Described<ExtraInfo> {
  public:
   Text JumpDest;
   Text VarName;
@@ -16,7 +16,8 @@ class ExtraInfo final : public Described<ExtraInfo> {
   int32_t TraverseNo = 0;
 
   static constexpr std::string_view kHelp = "Additional data of a message.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&ExtraInfo::JumpDest>("Destination of a jump."),
         property<&ExtraInfo::VarName>("Name of a variable."),
@@ -25,14 +26,15 @@ class ExtraInfo final : public Described<ExtraInfo> {
         property<&ExtraInfo::TraverseNo>("Number of the traversal."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {always<&ExtraInfo::JumpDest>(), always<&ExtraInfo::VarName>(),
                            always<&ExtraInfo::FunctionName>(), always<&ExtraInfo::ExpectedType>(),
                            always<&ExtraInfo::TraverseNo>()}};
   }
 };
 
-extern template const ClassDescription& Describe<ExtraInfo>();
+extern template const describe::ClassDescription& describe::Describe<ExtraInfo>();
 
 }  // namespace praxen
 

@@ -13,7 +13,7 @@ class FindMsg final : public PlacedMsg<FindMsg> {
   static constexpr const char16_t* kElement = u"Find";
 };
 
-extern template const ClassDescription& Describe<FindMsg>();
+extern template const describe::ClassDescription& describe::Describe<FindMsg>();
 
 }  // namespace praxen
 

@@ -16,7 +16,7 @@ class InfoMsg;
 class FindMsg;
 
 /// A message of the engineering tool. On its own it has no text and is of no class.
-class IMsg : public KindBase<IMsg> {
+class IMsg : public describe::KindBase<IMsg> {
  public:
   virtual Text Message() const { return {}; }
   virtual void SetMessage(const Text&) {}
@@ -26,10 +26,11 @@ class IMsg : public KindBase<IMsg> {
   virtual bool IsFindMsg() const { return false; }
 
   /// Holds a message that is implemented outside the library.
-  static Ref<Object> Adapt(Interface* foreign);
+  static Ref<Object> Adapt(detail::Interface* foreign);
 
   static constexpr std::string_view kHelp = "A message of the engineering tool.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         accessors<&IMsg::Message, &IMsg::SetMessage>("Message", "Text of the message."),
         computed<&IMsg::IsErrorMsg>("Whether it is an ErrorMsg."),
@@ -46,7 +47,7 @@ class IMsg : public KindBase<IMsg> {
 
 /// Answers what `IMsg` asks for the concrete `Class`.
 template <class Class>
-class Msg : public Described<Class, IMsg> {
+class Msg : public describe::Described<Class, IMsg> {
  public:
   Text Message() const final { return static_cast<const Class&>(*this).Message; }
   void SetMessage(const Text& message) final { static_cast<Class&>(*this).Message = message; }
@@ -63,11 +64,13 @@ class PlacedMsg : public Msg<Class> {
   Text Message;
   Ref<praxen::PosInfo> PosInfo;
 
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&PlacedMsg::Message>("Text of the message."),
             property<&PlacedMsg::PosInfo>("Where in the project the message points.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {always<&PlacedMsg::Message>()},
             .children = {object<&PlacedMsg::PosInfo>()}};
   }
@@ -79,12 +82,14 @@ class DetailedMsg : public PlacedMsg<Class> {
  public:
   Ref<praxen::ExtraInfo> ExtraInfo;
 
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return PlacedMsg<Class>::members() +
            Members{property<&DetailedMsg::ExtraInfo>("Additional data.")};
   }
-  static Layout layout() {
-    Layout layout = PlacedMsg<Class>::layout();
+  static describe::Layout layout() {
+    using namespace describe;
+    describe::Layout layout = PlacedMsg<Class>::layout();
     layout.children.push_back(object<&DetailedMsg::ExtraInfo>());
     return layout;
   }
@@ -95,18 +100,20 @@ template <class Class>
 class NumberedMsg : public DetailedMsg<Class> {
  protected:
   template <auto Number>
-  static Members numbered(std::string_view help) {
+  static describe::Members numbered(std::string_view help) {
+    using namespace describe;
     return Members{property<Number>(help)} + DetailedMsg<Class>::members();
   }
   template <auto Number>
-  static Layout numbered() {
-    Layout layout = DetailedMsg<Class>::layout();
+  static describe::Layout numbered() {
+    using namespace describe;
+    describe::Layout layout = DetailedMsg<Class>::layout();
     layout.attributes.insert(layout.attributes.begin(), always<Number>());
     return layout;
   }
 };
 
-extern template const ClassDescription& Describe<IMsg>();
+extern template const describe::ClassDescription& describe::Describe<IMsg>();
 
 }  // namespace praxen
 

@@ -12,7 +12,7 @@ class InfoMsg final : public DetailedMsg<InfoMsg> {
   static constexpr const char16_t* kElement = u"Info";
 };
 
-extern template const ClassDescription& Describe<InfoMsg>();
+extern template const describe::ClassDescription& describe::Describe<InfoMsg>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 Members MessageBucket::members() {
   return Members{property<&MessageBucket::NoOfErrors>("Number of errors, as reported."),
                  property<&MessageBucket::NoOfWarnings>("Number of warnings, as reported."),
@@ -22,13 +24,13 @@ Layout MessageBucket::layout() {
       .container = Container::Always};
 }
 
-template const ClassDescription& Describe<IMsg>();
-template const ClassDescription& Describe<ErrorMsg>();
-template const ClassDescription& Describe<WarningMsg>();
-template const ClassDescription& Describe<InfoMsg>();
-template const ClassDescription& Describe<FindMsg>();
-template const ClassDescription& Describe<PosInfo>();
-template const ClassDescription& Describe<ExtraInfo>();
-template const ClassDescription& Describe<MessageBucket>();
+template const ClassDescription& describe::Describe<IMsg>();
+template const ClassDescription& describe::Describe<ErrorMsg>();
+template const ClassDescription& describe::Describe<WarningMsg>();
+template const ClassDescription& describe::Describe<InfoMsg>();
+template const ClassDescription& describe::Describe<FindMsg>();
+template const ClassDescription& describe::Describe<PosInfo>();
+template const ClassDescription& describe::Describe<ExtraInfo>();
+template const ClassDescription& describe::Describe<MessageBucket>();
 
 }  // namespace praxen

@@ -17,11 +17,11 @@ class MessageBucket final : public Collection<MessageBucket, IMsg, SerializableO
 
   static constexpr std::string_view kHelp = "The messages of a check, compilation or search.";
   static constexpr std::string_view kArgument = "m";
-  static Members members();
-  static Layout layout();
+  static describe::Members members();
+  static describe::Layout layout();
 };
 
-extern template const ClassDescription& Describe<MessageBucket>();
+extern template const describe::ClassDescription& describe::Describe<MessageBucket>();
 
 }  // namespace praxen
 

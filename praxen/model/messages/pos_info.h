@@ -7,7 +7,7 @@
 
 namespace praxen {
 
-class PosInfo final : public Described<PosInfo> {
+class PosInfo final : public describe::Described<PosInfo> {
  public:
   int32_t Row = 0;
   int32_t Col = 0;
@@ -22,7 +22,8 @@ class PosInfo final : public Described<PosInfo> {
   Text Id;
 
   static constexpr std::string_view kHelp = "Where in the project a message points.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&PosInfo::Row>("Row in the code."),
         property<&PosInfo::Col>("Column in the code."),
@@ -37,7 +38,8 @@ class PosInfo final : public Described<PosInfo> {
         property<&PosInfo::Id>("Identifier of the object."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {always<&PosInfo::Row>(), always<&PosInfo::Col>(),
                            always<&PosInfo::StartPos>(), always<&PosInfo::EndPos>(),
                            always<&PosInfo::ElementName>(), always<&PosInfo::FOUName>(),
@@ -47,7 +49,7 @@ class PosInfo final : public Described<PosInfo> {
   }
 };
 
-extern template const ClassDescription& Describe<PosInfo>();
+extern template const describe::ClassDescription& describe::Describe<PosInfo>();
 
 }  // namespace praxen
 

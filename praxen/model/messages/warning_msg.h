@@ -12,11 +12,17 @@ class WarningMsg final : public NumberedMsg<WarningMsg> {
 
   static constexpr std::string_view kHelp = "A warning that the engineering tool reports.";
   static constexpr const char16_t* kElement = u"Warning";
-  static Members members() { return numbered<&WarningMsg::WarningNo>("Number of the warning."); }
-  static Layout layout() { return numbered<&WarningMsg::WarningNo>(); }
+  static describe::Members members() {
+    using namespace describe;
+    return numbered<&WarningMsg::WarningNo>("Number of the warning.");
+  }
+  static describe::Layout layout() {
+    using namespace describe;
+    return numbered<&WarningMsg::WarningNo>();
+  }
 };
 
-extern template const ClassDescription& Describe<WarningMsg>();
+extern template const describe::ClassDescription& describe::Describe<WarningMsg>();
 
 }  // namespace praxen
 

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<CMConnection>();
-template const ClassDescription& Describe<CMConnections>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<CMConnection>();
+template const ClassDescription& describe::Describe<CMConnections>();
 
 }  // namespace praxen

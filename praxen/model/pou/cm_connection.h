@@ -6,14 +6,15 @@
 
 namespace praxen {
 
-class CMConnection final : public Serializable<CMConnection> {
+class CMConnection final : public describe::Serializable<CMConnection> {
  public:
   Text Name, ActualParameter;
   bool GraphicalConnection = false;
   Ref<praxen::Points> Points = New<praxen::Points>();
 
   static constexpr std::string_view kHelp = "A connection of a parameter of a control module.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&CMConnection::Name>("Name of the parameter; required for writing."),
         property<&CMConnection::ActualParameter>("What the parameter is connected to."),
@@ -22,14 +23,16 @@ class CMConnection final : public Serializable<CMConnection> {
         serialize(),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&CMConnection::Name>(), always<&CMConnection::ActualParameter>(),
                        optional<&CMConnection::GraphicalConnection>()},
         .children = {items<&CMConnection::Points>()}};
   }
-  using Form = Creation<CMConnection, &CMConnection::Name, &CMConnection::ActualParameter>;
-  using LongForm = Extended<Form, &CMConnection::GraphicalConnection>;
+  using Form =
+      describe::Creation<CMConnection, &CMConnection::Name, &CMConnection::ActualParameter>;
+  using LongForm = describe::Extended<Form, &CMConnection::GraphicalConnection>;
 };
 
 class CMConnections final : public Collection<CMConnections, CMConnection> {
@@ -37,8 +40,8 @@ class CMConnections final : public Collection<CMConnections, CMConnection> {
   static constexpr std::string_view kHelp = "Connections of a control module, in order.";
 };
 
-extern template const ClassDescription& Describe<CMConnection>();
-extern template const ClassDescription& Describe<CMConnections>();
+extern template const describe::ClassDescription& describe::Describe<CMConnection>();
+extern template const describe::ClassDescription& describe::Describe<CMConnections>();
 
 }  // namespace praxen
 

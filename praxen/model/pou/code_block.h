@@ -17,7 +17,7 @@ class ILCodeBlock;
 class SFCCodeBlock;
 
 /// A code block of any language. On its own it has no name and is of no language.
-class ICodeBlock : public KindBase<ICodeBlock, SerializableObject> {
+class ICodeBlock : public describe::KindBase<ICodeBlock, SerializableObject> {
  public:
   virtual Text Name() const { return {}; }
   virtual void SetName(const Text&) {}
@@ -29,10 +29,11 @@ class ICodeBlock : public KindBase<ICodeBlock, SerializableObject> {
   virtual bool IsFDCodeBlock() const { return false; }
 
   /// Holds a code block that is implemented outside the library.
-  static Ref<Object> Adapt(Interface* foreign);
+  static Ref<Object> Adapt(detail::Interface* foreign);
 
   static constexpr std::string_view kHelp = "A code block of any language.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         accessors<&ICodeBlock::Name, &ICodeBlock::SetName>("Name", "Name of the code block."),
         computed<&ICodeBlock::IsSTCodeBlock>("Whether it is an STCodeBlock."),
@@ -51,7 +52,7 @@ class ICodeBlock : public KindBase<ICodeBlock, SerializableObject> {
 
 /// Answers what `ICodeBlock` asks for the concrete `Class`.
 template <class Class>
-class CodeBlock : public Described<Class, ICodeBlock> {
+class CodeBlock : public describe::Described<Class, ICodeBlock> {
  public:
   Text Name() const final { return static_cast<const Class&>(*this).Name; }
   void SetName(const Text& name) final { static_cast<Class&>(*this).Name = name; }
@@ -63,11 +64,11 @@ class CodeBlock : public Described<Class, ICodeBlock> {
   bool IsFDCodeBlock() const final { return std::is_same_v<Class, FDCodeBlock>; }
 
  protected:
-  using Described<Class, ICodeBlock>::Described;
+  using describe::Described<Class, ICodeBlock>::Described;
   CodeBlock() = default;
 };
 
-extern template const ClassDescription& Describe<ICodeBlock>();
+extern template const describe::ClassDescription& describe::Describe<ICodeBlock>();
 
 }  // namespace praxen
 

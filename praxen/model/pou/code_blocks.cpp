@@ -5,6 +5,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 namespace {
 
 template <auto Add>
@@ -48,11 +50,11 @@ Layout CodeBlocks::layout() {
           .container = Container::WhenNotEmpty};
 }
 
-template const ClassDescription& Describe<ICodeBlock>();
-template const ClassDescription& Describe<STCodeBlock>();
-template const ClassDescription& Describe<LDCodeBlock>();
-template const ClassDescription& Describe<FBDCodeBlock>();
-template const ClassDescription& Describe<ILCodeBlock>();
-template const ClassDescription& Describe<CodeBlocks>();
+template const ClassDescription& describe::Describe<ICodeBlock>();
+template const ClassDescription& describe::Describe<STCodeBlock>();
+template const ClassDescription& describe::Describe<LDCodeBlock>();
+template const ClassDescription& describe::Describe<FBDCodeBlock>();
+template const ClassDescription& describe::Describe<ILCodeBlock>();
+template const ClassDescription& describe::Describe<CodeBlocks>();
 
 }  // namespace praxen

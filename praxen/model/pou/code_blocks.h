@@ -40,17 +40,17 @@ class CodeBlocks final : public Collection<CodeBlocks, ICodeBlock> {
 
   static constexpr std::string_view kHelp = "Code blocks of all languages, in order.";
   static constexpr std::string_view kArgument = "icb";
-  static Members members();
-  static Layout layout();
+  static describe::Members members();
+  static describe::Layout layout();
 
  private:
   template <class Form, class... Arguments>
   Ref<typename Form::Created> Create(const Arguments&... arguments) {
-    return Addition<CodeBlocks, Form>::Run(*this, arguments...);
+    return describe::Addition<CodeBlocks, Form>::Run(*this, arguments...);
   }
 };
 
-extern template const ClassDescription& Describe<CodeBlocks>();
+extern template const describe::ClassDescription& describe::Describe<CodeBlocks>();
 
 }  // namespace praxen
 

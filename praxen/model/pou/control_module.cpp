@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ControlModule>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ControlModule>();
 
 }  // namespace praxen

@@ -22,7 +22,8 @@ class ControlModule final : public ControlModuleInstance<ControlModule> {
   bool ExposePropertiesInParent = false;
 
   static constexpr std::string_view kHelp = "An instance of a control module type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&ControlModule::Name>("Name of the control module; required for writing."),
         property<&ControlModule::TypeName>("Control module type; required for writing."),
@@ -44,7 +45,8 @@ class ControlModule final : public ControlModuleInstance<ControlModule> {
             "Whether the parent shows the properties of the instance."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&ControlModule::Name>(),
                        required<&ControlModule::TypeName>(u"Type"),
@@ -59,13 +61,13 @@ class ControlModule final : public ControlModuleInstance<ControlModule> {
         .children = {text<&ControlModule::CMInstGraphics>(), list<&ControlModule::CMConnections>(),
                      text<&ControlModule::Description>(), object<&ControlModule::GraphPos>()}};
   }
-  using Form = Creation<ControlModule, &ControlModule::Name, &ControlModule::TypeName>;
-  using LongForm =
-      Extended<Form, &ControlModule::TaskConnection, &ControlModule::VisibilityInGraphics,
-               &ControlModule::Guid, &ControlModule::Description, &ControlModule::GraphPos>;
+  using Form = describe::Creation<ControlModule, &ControlModule::Name, &ControlModule::TypeName>;
+  using LongForm = describe::Extended<Form, &ControlModule::TaskConnection,
+                                      &ControlModule::VisibilityInGraphics, &ControlModule::Guid,
+                                      &ControlModule::Description, &ControlModule::GraphPos>;
 };
 
-extern template const ClassDescription& Describe<ControlModule>();
+extern template const describe::ClassDescription& describe::Describe<ControlModule>();
 
 }  // namespace praxen
 

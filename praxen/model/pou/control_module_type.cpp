@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ControlModuleType>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ControlModuleType>();
 
 }  // namespace praxen

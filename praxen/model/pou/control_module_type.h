@@ -12,7 +12,7 @@
 
 namespace praxen {
 
-class ControlModuleType final : public Serializable<ControlModuleType> {
+class ControlModuleType final : public describe::Serializable<ControlModuleType> {
  public:
   Text Name;
   bool Protected = false, Hidden = false;
@@ -33,7 +33,8 @@ class ControlModuleType final : public Serializable<ControlModuleType> {
   bool InstantiateAsAspectObject = false, EmbeddedGraphicsVisible = false, RestrictedSIL = false;
 
   static constexpr std::string_view kHelp = "A control module type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&ControlModuleType::Name>("Name of the type; required for writing."),
         property<&ControlModuleType::Protected>("Whether the type is protected."),
@@ -65,7 +66,8 @@ class ControlModuleType final : public Serializable<ControlModuleType> {
             "Whether the type is restricted in its safety integrity level."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = POUHeader<ControlModuleType>(
             {optional<&ControlModuleType::InteractionWindow>(),
@@ -84,15 +86,16 @@ class ControlModuleType final : public Serializable<ControlModuleType> {
             list<&ControlModuleType::CodeBlocks>(), text<&ControlModuleType::Description>(),
             object<&ControlModuleType::GraphSize>()}};
   }
-  using Form =
-      Creation<ControlModuleType, &ControlModuleType::Name, &ControlModuleType::Description>;
-  using LongForm = Extended<Form, &ControlModuleType::Protected, &ControlModuleType::Hidden,
-                            &ControlModuleType::Scope, &ControlModuleType::InteractionWindow,
-                            &ControlModuleType::AlarmOwner, &ControlModuleType::Guid,
-                            &ControlModuleType::GraphSize>;
+  using Form = describe::Creation<ControlModuleType, &ControlModuleType::Name,
+                                  &ControlModuleType::Description>;
+  using LongForm =
+      describe::Extended<Form, &ControlModuleType::Protected, &ControlModuleType::Hidden,
+                         &ControlModuleType::Scope, &ControlModuleType::InteractionWindow,
+                         &ControlModuleType::AlarmOwner, &ControlModuleType::Guid,
+                         &ControlModuleType::GraphSize>;
 };
 
-extern template const ClassDescription& Describe<ControlModuleType>();
+extern template const describe::ClassDescription& describe::Describe<ControlModuleType>();
 
 }  // namespace praxen
 

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<ControlModules>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<ControlModules>();
 
 Members ControlModules::members() {
   constexpr std::string_view kAppends = "Creates a control module, appends and returns it.";

@@ -23,16 +23,17 @@ class ControlModules final : public Collection<ControlModules, IControlModule, S
 
   static constexpr std::string_view kHelp = "Control modules, in order.";
   static constexpr std::string_view kArgument = "CM";
-  static Members members();
-  static Layout layout() {
+  static describe::Members members();
+  static describe::Layout layout() {
+    using namespace describe;
     return {.elements = {choice<ControlModule, IControlModule, &IControlModule::IsControlModule>(),
                          otherwise<SingleControlModuleInst>()},
             .container = Container::Always};
   }
-  using Form = Creation<ControlModules>;
+  using Form = describe::Creation<ControlModules>;
 };
 
-extern template const ClassDescription& Describe<ControlModules>();
+extern template const describe::ClassDescription& describe::Describe<ControlModules>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<Diagram>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<Diagram>();
 
 }  // namespace praxen

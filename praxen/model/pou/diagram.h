@@ -13,7 +13,7 @@
 
 namespace praxen {
 
-class Diagram final : public Serializable<Diagram> {
+class Diagram final : public describe::Serializable<Diagram> {
  public:
   Text Name, TaskConnection, TypeGuid, InstGuid, Description;
   Text SILLevel = u"NonSIL"_text;
@@ -30,7 +30,8 @@ class Diagram final : public Serializable<Diagram> {
   Text BatchObject;
 
   static constexpr std::string_view kHelp = "A diagram of an application.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&Diagram::Name>("Name of the diagram; required for writing."),
         property<&Diagram::TaskConnection>("Name of the task that runs the diagram."),
@@ -56,7 +57,8 @@ class Diagram final : public Serializable<Diagram> {
         property<&Diagram::BatchObject>("Meaning of the diagram for batch control."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&Diagram::Name>(), optional<&Diagram::TaskConnection>(),
                        optional<&Diagram::TypeGuid>(), optional<&Diagram::InstGuid>(),
@@ -70,11 +72,12 @@ class Diagram final : public Serializable<Diagram> {
                      list<&Diagram::InitValues>(), list<&Diagram::CodeBlocks>(),
                      strictText<&Diagram::Description>()}};
   }
-  using Form = Creation<Diagram, &Diagram::Name, &Diagram::Description>;
-  using LongForm = Extended<Form, &Diagram::TaskConnection, &Diagram::TypeGuid, &Diagram::InstGuid>;
+  using Form = describe::Creation<Diagram, &Diagram::Name, &Diagram::Description>;
+  using LongForm =
+      describe::Extended<Form, &Diagram::TaskConnection, &Diagram::TypeGuid, &Diagram::InstGuid>;
 };
 
-extern template const ClassDescription& Describe<Diagram>();
+extern template const describe::ClassDescription& describe::Describe<Diagram>();
 
 }  // namespace praxen
 

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<DiagramInstance>();
-template const ClassDescription& Describe<DiagramInstances>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<DiagramInstance>();
+template const ClassDescription& describe::Describe<DiagramInstances>();
 
 }  // namespace praxen

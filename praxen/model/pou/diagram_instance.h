@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class DiagramInstance final : public Serializable<DiagramInstance> {
+class DiagramInstance final : public describe::Serializable<DiagramInstance> {
  public:
   Text Name, TypeName, Guid, Description;
   bool AspectObject = true, ExposePropertiesInParent = false;
@@ -14,7 +14,8 @@ class DiagramInstance final : public Serializable<DiagramInstance> {
   ReadOnly<Text> TypeGuid, TypePath;
 
   static constexpr std::string_view kHelp = "An instance of a diagram type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&DiagramInstance::Name>("Name of the instance; required for writing."),
         property<&DiagramInstance::TypeName>("Diagram type; required for writing."),
@@ -30,7 +31,8 @@ class DiagramInstance final : public Serializable<DiagramInstance> {
         serialize(),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&DiagramInstance::Name>(),
                        required<&DiagramInstance::TypeName>(u"Type"),
@@ -42,8 +44,9 @@ class DiagramInstance final : public Serializable<DiagramInstance> {
                        optional<&DiagramInstance::SafetyType>()},
         .children = {strictText<&DiagramInstance::Description>()}};
   }
-  using Form = Creation<DiagramInstance, &DiagramInstance::Name, &DiagramInstance::TypeName>;
-  using LongForm = Extended<Form, &DiagramInstance::Guid, &DiagramInstance::Description>;
+  using Form =
+      describe::Creation<DiagramInstance, &DiagramInstance::Name, &DiagramInstance::TypeName>;
+  using LongForm = describe::Extended<Form, &DiagramInstance::Guid, &DiagramInstance::Description>;
 };
 
 class DiagramInstances final : public Collection<DiagramInstances, DiagramInstance> {
@@ -51,8 +54,8 @@ class DiagramInstances final : public Collection<DiagramInstances, DiagramInstan
   static constexpr std::string_view kHelp = "Diagram instances, in order.";
 };
 
-extern template const ClassDescription& Describe<DiagramInstance>();
-extern template const ClassDescription& Describe<DiagramInstances>();
+extern template const describe::ClassDescription& describe::Describe<DiagramInstance>();
+extern template const describe::ClassDescription& describe::Describe<DiagramInstances>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<DiagramType>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<DiagramType>();
 
 }  // namespace praxen

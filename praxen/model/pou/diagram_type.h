@@ -11,7 +11,7 @@
 
 namespace praxen {
 
-class DiagramType final : public Serializable<DiagramType> {
+class DiagramType final : public describe::Serializable<DiagramType> {
  public:
   Text Name;
   bool Protected = false, Hidden = false;
@@ -33,7 +33,8 @@ class DiagramType final : public Serializable<DiagramType> {
   Text BatchObject;
 
   static constexpr std::string_view kHelp = "A diagram type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&DiagramType::Name>("Name of the type; required for writing."),
         property<&DiagramType::Protected>("Whether the type is protected."),
@@ -60,7 +61,8 @@ class DiagramType final : public Serializable<DiagramType> {
         property<&DiagramType::BatchObject>("Meaning of the type for batch control."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = POUHeader<DiagramType>(
             {optional<&DiagramType::AlarmOwner>(),
@@ -74,12 +76,13 @@ class DiagramType final : public Serializable<DiagramType> {
                      list<&DiagramType::DiagramInstances>(), list<&DiagramType::CodeBlocks>(),
                      strictText<&DiagramType::Description>()}};
   }
-  using Form = Creation<DiagramType, &DiagramType::Name, &DiagramType::Description>;
-  using LongForm = Extended<Form, &DiagramType::Protected, &DiagramType::Hidden,
-                            &DiagramType::Scope, &DiagramType::AlarmOwner, &DiagramType::Guid>;
+  using Form = describe::Creation<DiagramType, &DiagramType::Name, &DiagramType::Description>;
+  using LongForm =
+      describe::Extended<Form, &DiagramType::Protected, &DiagramType::Hidden, &DiagramType::Scope,
+                         &DiagramType::AlarmOwner, &DiagramType::Guid>;
 };
 
-extern template const ClassDescription& Describe<DiagramType>();
+extern template const describe::ClassDescription& describe::Describe<DiagramType>();
 
 }  // namespace praxen
 

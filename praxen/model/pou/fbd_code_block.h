@@ -9,10 +9,13 @@ namespace praxen {
 class FBDCodeBlock final : public TextCodeBlock<FBDCodeBlock> {
  public:
   static constexpr std::string_view kHelp = "A code block in Function Block Diagram.";
-  static Layout layout() { return unescapingLayout(); }
+  static describe::Layout layout() {
+    using namespace describe;
+    return unescapingLayout();
+  }
 };
 
-extern template const ClassDescription& Describe<FBDCodeBlock>();
+extern template const describe::ClassDescription& describe::Describe<FBDCodeBlock>();
 
 }  // namespace praxen
 

@@ -7,6 +7,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 Layout FDCodeBlock::layout() {
   Child diagram = custom<&FDCodeBlock::WriteDiagram, &FDCodeBlock::ReadDiagram>(
       "The element of the function diagram, of any name and content.", {});
@@ -22,6 +24,6 @@ void FDCodeBlock::ReadDiagram(XmlNode& cursor) {
   cursor = cursor.nextSibling();
 }
 
-template const ClassDescription& Describe<FDCodeBlock>();
+template const ClassDescription& describe::Describe<FDCodeBlock>();
 
 }  // namespace praxen

@@ -13,19 +13,20 @@ class FDCodeBlock final : public CodeBlock<FDCodeBlock> {
   Text FDAsXMLStr = u"<FunctionDiagram/>"_text;
 
   static constexpr std::string_view kHelp = "A code block that holds a function diagram.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&FDCodeBlock::Name>("Name of the code block; required for writing."),
             propertyPutFirst<&FDCodeBlock::FDAsXMLStr>("The diagram as one XML element."),
             serialize()};
   }
-  static Layout layout();
+  static describe::Layout layout();
 
  private:
-  void WriteDiagram(XMLStringWriter& writer);
-  void ReadDiagram(XmlNode& cursor);
+  void WriteDiagram(detail::XMLStringWriter& writer);
+  void ReadDiagram(detail::XmlNode& cursor);
 };
 
-extern template const ClassDescription& Describe<FDCodeBlock>();
+extern template const describe::ClassDescription& describe::Describe<FDCodeBlock>();
 
 }  // namespace praxen
 

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<FunctionBlock>();
-template const ClassDescription& Describe<FunctionBlocks>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<FunctionBlock>();
+template const ClassDescription& describe::Describe<FunctionBlocks>();
 
 }  // namespace praxen

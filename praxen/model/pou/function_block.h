@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class FunctionBlock final : public Serializable<FunctionBlock> {
+class FunctionBlock final : public describe::Serializable<FunctionBlock> {
  public:
   Text Name, TypeName, TaskConnection, Guid, Description;
   ReadOnly<Text> TypeGuid, TypePath;
@@ -15,7 +15,8 @@ class FunctionBlock final : public Serializable<FunctionBlock> {
   bool ExposePropertiesInParent = false;
 
   static constexpr std::string_view kHelp = "An instance of a function block type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&FunctionBlock::Name>("Name of the function block; required for writing."),
         property<&FunctionBlock::TypeName>("Function block type; required for writing."),
@@ -32,7 +33,8 @@ class FunctionBlock final : public Serializable<FunctionBlock> {
             "Whether the parent shows the properties of the instance."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {
         .attributes = {required<&FunctionBlock::Name>(),
                        required<&FunctionBlock::TypeName>(u"Type"),
@@ -44,9 +46,9 @@ class FunctionBlock final : public Serializable<FunctionBlock> {
                        optional<&FunctionBlock::SafetyType>()},
         .children = {strictText<&FunctionBlock::Description>()}};
   }
-  using Form = Creation<FunctionBlock, &FunctionBlock::Name, &FunctionBlock::TypeName>;
-  using LongForm = Extended<Form, &FunctionBlock::TaskConnection, &FunctionBlock::Guid,
-                            &FunctionBlock::Description>;
+  using Form = describe::Creation<FunctionBlock, &FunctionBlock::Name, &FunctionBlock::TypeName>;
+  using LongForm = describe::Extended<Form, &FunctionBlock::TaskConnection, &FunctionBlock::Guid,
+                                      &FunctionBlock::Description>;
 };
 
 class FunctionBlocks final : public Collection<FunctionBlocks, FunctionBlock> {
@@ -54,8 +56,8 @@ class FunctionBlocks final : public Collection<FunctionBlocks, FunctionBlock> {
   static constexpr std::string_view kHelp = "Function blocks, in order.";
 };
 
-extern template const ClassDescription& Describe<FunctionBlock>();
-extern template const ClassDescription& Describe<FunctionBlocks>();
+extern template const describe::ClassDescription& describe::Describe<FunctionBlock>();
+extern template const describe::ClassDescription& describe::Describe<FunctionBlocks>();
 
 }  // namespace praxen
 

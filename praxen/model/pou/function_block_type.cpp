@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<FunctionBlockType>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<FunctionBlockType>();
 
 }  // namespace praxen

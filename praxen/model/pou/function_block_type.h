@@ -12,7 +12,7 @@
 
 namespace praxen {
 
-class FunctionBlockType final : public Serializable<FunctionBlockType> {
+class FunctionBlockType final : public describe::Serializable<FunctionBlockType> {
  public:
   Text Name;
   bool Protected = false, Hidden = false;
@@ -33,7 +33,8 @@ class FunctionBlockType final : public Serializable<FunctionBlockType> {
   bool InstantiateAsAspectObject = false, EmbeddedGraphicsVisible = false, RestrictedSIL = false;
 
   static constexpr std::string_view kHelp = "A function block type.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&FunctionBlockType::Name>("Name of the type; required for writing."),
         property<&FunctionBlockType::Protected>("Whether the type is protected."),
@@ -63,7 +64,8 @@ class FunctionBlockType final : public Serializable<FunctionBlockType> {
             "Whether the type is restricted in its safety integrity level."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = POUHeader<FunctionBlockType>(
                 {optional<&FunctionBlockType::InteractionWindow>(),
                  optional<&FunctionBlockType::AlarmOwner>(),
@@ -82,14 +84,15 @@ class FunctionBlockType final : public Serializable<FunctionBlockType> {
                          list<&FunctionBlockType::CodeBlocks>(),
                          strictText<&FunctionBlockType::Description>()}};
   }
-  using Form =
-      Creation<FunctionBlockType, &FunctionBlockType::Name, &FunctionBlockType::Description>;
-  using LongForm = Extended<Form, &FunctionBlockType::Protected, &FunctionBlockType::Hidden,
-                            &FunctionBlockType::Scope, &FunctionBlockType::InteractionWindow,
-                            &FunctionBlockType::AlarmOwner, &FunctionBlockType::Guid>;
+  using Form = describe::Creation<FunctionBlockType, &FunctionBlockType::Name,
+                                  &FunctionBlockType::Description>;
+  using LongForm =
+      describe::Extended<Form, &FunctionBlockType::Protected, &FunctionBlockType::Hidden,
+                         &FunctionBlockType::Scope, &FunctionBlockType::InteractionWindow,
+                         &FunctionBlockType::AlarmOwner, &FunctionBlockType::Guid>;
 };
 
-extern template const ClassDescription& Describe<FunctionBlockType>();
+extern template const describe::ClassDescription& describe::Describe<FunctionBlockType>();
 
 }  // namespace praxen
 

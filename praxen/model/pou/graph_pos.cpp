@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<GraphPos>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<GraphPos>();
 
 }  // namespace praxen

@@ -7,13 +7,14 @@
 
 namespace praxen {
 
-class GraphPos final : public Described<GraphPos> {
+class GraphPos final : public describe::Described<GraphPos> {
  public:
   double XPos = 0, YPos = 0, Rotation = 0, XScale = 1, YScale = 1;
 
   static constexpr std::string_view kHelp =
       "The place of a control module in its parent's graphics.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&GraphPos::XPos>("Horizontal coordinate."),
         property<&GraphPos::YPos>("Vertical coordinate."),
@@ -22,16 +23,17 @@ class GraphPos final : public Described<GraphPos> {
         property<&GraphPos::YScale>("Vertical scale factor."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {always<&GraphPos::XPos>(), always<&GraphPos::YPos>(),
                            always<&GraphPos::Rotation>(), always<&GraphPos::XScale>(),
                            always<&GraphPos::YScale>()}};
   }
-  using Form = Creation<GraphPos, &GraphPos::XPos, &GraphPos::YPos, &GraphPos::Rotation,
-                        &GraphPos::XScale, &GraphPos::YScale>;
+  using Form = describe::Creation<GraphPos, &GraphPos::XPos, &GraphPos::YPos, &GraphPos::Rotation,
+                                  &GraphPos::XScale, &GraphPos::YScale>;
 };
 
-extern template const ClassDescription& Describe<GraphPos>();
+extern template const describe::ClassDescription& describe::Describe<GraphPos>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<GraphSize>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<GraphSize>();
 
 }  // namespace praxen

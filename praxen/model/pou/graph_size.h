@@ -6,25 +6,27 @@
 
 namespace praxen {
 
-class GraphSize final : public Described<GraphSize> {
+class GraphSize final : public describe::Described<GraphSize> {
  public:
   Ref<Point> LowerLeft = Point::Form()(-1, -1);
   Ref<Point> UpperRight = Point::Form()(1, 1);
 
   static constexpr std::string_view kHelp = "The size of a control module type's graphics.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&GraphSize::LowerLeft>("Lower left corner; required for writing."),
         property<&GraphSize::UpperRight>("Upper right corner; required for writing."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.children = {unnamed<&GraphSize::LowerLeft>(), unnamed<&GraphSize::UpperRight>()}};
   }
-  using Form = Creation<GraphSize, &GraphSize::LowerLeft, &GraphSize::UpperRight>;
+  using Form = describe::Creation<GraphSize, &GraphSize::LowerLeft, &GraphSize::UpperRight>;
 };
 
-extern template const ClassDescription& Describe<GraphSize>();
+extern template const describe::ClassDescription& describe::Describe<GraphSize>();
 
 }  // namespace praxen
 

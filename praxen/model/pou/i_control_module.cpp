@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<IControlModule>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<IControlModule>();
 
 }  // namespace praxen

@@ -13,7 +13,7 @@ class ControlModule;
 class SingleControlModuleInst;
 
 /// On its own it has no name, ignores one that is set, and is of neither class.
-class IControlModule : public KindBase<IControlModule, SerializableObject> {
+class IControlModule : public describe::KindBase<IControlModule, SerializableObject> {
  public:
   virtual Text Name() const { return {}; }
   virtual void SetName(const Text&) {}
@@ -21,10 +21,11 @@ class IControlModule : public KindBase<IControlModule, SerializableObject> {
   virtual bool IsSingleControlModule() const { return false; }
 
   /// Holds a foreign implementation; an empty reference when it does not implement the kind.
-  static Ref<Object> Adapt(Interface* foreign);
+  static Ref<Object> Adapt(detail::Interface* foreign);
 
   static constexpr std::string_view kHelp = "An instance in a list of control modules.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         PutFirst(accessors<&IControlModule::Name, &IControlModule::SetName>(
             "Name", "Name of the control module.")),
@@ -41,7 +42,7 @@ class IControlModule : public KindBase<IControlModule, SerializableObject> {
 
 /// Answers the questions of the kind for `Class`.
 template <class Class>
-class ControlModuleInstance : public Described<Class, IControlModule> {
+class ControlModuleInstance : public describe::Described<Class, IControlModule> {
  public:
   Text Name() const final { return static_cast<const Class&>(*this).Name; }
   void SetName(const Text& name) final { static_cast<Class&>(*this).Name = name; }
@@ -51,7 +52,7 @@ class ControlModuleInstance : public Described<Class, IControlModule> {
   }
 };
 
-extern template const ClassDescription& Describe<IControlModule>();
+extern template const describe::ClassDescription& describe::Describe<IControlModule>();
 
 }  // namespace praxen
 

@@ -13,18 +13,20 @@ class ILCodeBlock final : public CodeBlock<ILCodeBlock> {
   Ref<praxen::ILRows> ILRows = New<praxen::ILRows>();
 
   static constexpr std::string_view kHelp = "A code block in Instruction List.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&ILCodeBlock::Name>("Name of the code block; required for writing."),
             property<&ILCodeBlock::ILRows>("The rows."), serialize()};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&ILCodeBlock::Name>()},
             .children = {items<&ILCodeBlock::ILRows>()}};
   }
-  using Form = Creation<ILCodeBlock, &ILCodeBlock::Name>;
+  using Form = describe::Creation<ILCodeBlock, &ILCodeBlock::Name>;
 };
 
-extern template const ClassDescription& Describe<ILCodeBlock>();
+extern template const describe::ClassDescription& describe::Describe<ILCodeBlock>();
 
 }  // namespace praxen
 

@@ -7,6 +7,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 namespace {
 
 struct RowText {
@@ -51,7 +53,7 @@ void ILRow::ReadTexts(XmlNode& cursor) {
   }
 }
 
-template const ClassDescription& Describe<ILRow>();
-template const ClassDescription& Describe<ILRows>();
+template const ClassDescription& describe::Describe<ILRow>();
+template const ClassDescription& describe::Describe<ILRows>();
 
 }  // namespace praxen

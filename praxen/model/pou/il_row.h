@@ -7,7 +7,7 @@
 namespace praxen {
 
 /// An instruction, or a comment that fills the row.
-class ILRow final : public Described<ILRow> {
+class ILRow final : public describe::Described<ILRow> {
  public:
   Text Label, Instruction, Operand, Description;
   /// Counts in a comment row only, and the four others in an instruction row only.
@@ -15,7 +15,8 @@ class ILRow final : public Described<ILRow> {
   bool IsRowComment = false;
 
   static constexpr std::string_view kHelp = "A row of an instruction list.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&ILRow::Label>("Label of the instruction."),
         property<&ILRow::Instruction>("Operator of the instruction."),
@@ -25,18 +26,18 @@ class ILRow final : public Described<ILRow> {
         property<&ILRow::IsRowComment>("Whether the row is a comment instead of an instruction."),
     };
   }
-  static Layout layout();
+  static describe::Layout layout();
 
   struct CommentRow {
     static void Prepare(ILRow& row) { row.IsRowComment = true; }
   };
-  using Form =
-      Creation<ILRow, &ILRow::Label, &ILRow::Instruction, &ILRow::Operand, &ILRow::Description>;
-  using CommentForm = PreparedCreation<ILRow, CommentRow, &ILRow::ILRowComment>;
+  using Form = describe::Creation<ILRow, &ILRow::Label, &ILRow::Instruction, &ILRow::Operand,
+                                  &ILRow::Description>;
+  using CommentForm = describe::PreparedCreation<ILRow, CommentRow, &ILRow::ILRowComment>;
 
  private:
-  void WriteTexts(XMLStringWriter& writer);
-  void ReadTexts(XmlNode& cursor);
+  void WriteTexts(detail::XMLStringWriter& writer);
+  void ReadTexts(detail::XmlNode& cursor);
 };
 
 class ILRows final : public Collection<ILRows, ILRow> {
@@ -44,15 +45,17 @@ class ILRows final : public Collection<ILRows, ILRow> {
   /// Appends an instruction row.
   Ref<ILRow> AddRow(const Text& Label, const Text& Instruction, const Text& Operand,
                     const Text& Description) {
-    return Addition<ILRows, ILRow::Form>::Run(*this, Label, Instruction, Operand, Description);
+    return describe::Addition<ILRows, ILRow::Form>::Run(*this, Label, Instruction, Operand,
+                                                        Description);
   }
   /// Appends a comment row.
   Ref<ILRow> AddComment(const Text& ILRowComment) {
-    return Addition<ILRows, ILRow::CommentForm>::Run(*this, ILRowComment);
+    return describe::Addition<ILRows, ILRow::CommentForm>::Run(*this, ILRowComment);
   }
 
   static constexpr std::string_view kHelp = "The rows of an instruction list, in order.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return Members{
                add(), addBefore(),
                method<&ILRows::AddRow>("Appends an instruction.", ILRow::Form::ParameterNames()),
@@ -60,11 +63,14 @@ class ILRows final : public Collection<ILRows, ILRow> {
                                            ILRow::CommentForm::ParameterNames())} +
            positions();
   }
-  static Layout layout() { return {.elements = {choice<ILRow>()}, .container = Container::None}; }
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.elements = {choice<ILRow>()}, .container = Container::None};
+  }
 };
 
-extern template const ClassDescription& Describe<ILRow>();
-extern template const ClassDescription& Describe<ILRows>();
+extern template const describe::ClassDescription& describe::Describe<ILRow>();
+extern template const describe::ClassDescription& describe::Describe<ILRows>();
 
 }  // namespace praxen
 

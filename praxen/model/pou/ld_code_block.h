@@ -12,10 +12,13 @@ class LDCodeBlock final : public TextCodeBlock<LDCodeBlock> {
   LDCodeBlock() : TextCodeBlock(Counting::No) {}
 
   static constexpr std::string_view kHelp = "A code block in Ladder Diagram.";
-  static Layout layout() { return unescapingLayout(); }
+  static describe::Layout layout() {
+    using namespace describe;
+    return unescapingLayout();
+  }
 };
 
-extern template const ClassDescription& Describe<LDCodeBlock>();
+extern template const describe::ClassDescription& describe::Describe<LDCodeBlock>();
 
 }  // namespace praxen
 

@@ -5,7 +5,9 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<Point>();
-template const ClassDescription& Describe<Points>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<Point>();
+template const ClassDescription& describe::Describe<Points>();
 
 }  // namespace praxen

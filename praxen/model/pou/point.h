@@ -6,30 +6,37 @@
 
 namespace praxen {
 
-class Point final : public Described<Point> {
+class Point final : public describe::Described<Point> {
  public:
   double X = 0, Y = 0;
 
   static constexpr std::string_view kHelp = "A point in a control module's graphics.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&Point::X>("Horizontal coordinate."),
         property<&Point::Y>("Vertical coordinate."),
     };
   }
-  static Layout layout() { return {.attributes = {always<&Point::X>(), always<&Point::Y>()}}; }
-  using Form = Creation<Point, &Point::X, &Point::Y>;
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.attributes = {always<&Point::X>(), always<&Point::Y>()}};
+  }
+  using Form = describe::Creation<Point, &Point::X, &Point::Y>;
 };
 
 class Points final : public Collection<Points, Point> {
  public:
   static constexpr std::string_view kHelp = "Points, in order.";
   static constexpr std::string_view kArgument = "pt";
-  static Layout layout() { return {.elements = {choice<Point>()}, .container = Container::None}; }
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.elements = {choice<Point>()}, .container = Container::None};
+  }
 };
 
-extern template const ClassDescription& Describe<Point>();
-extern template const ClassDescription& Describe<Points>();
+extern template const describe::ClassDescription& describe::Describe<Point>();
+extern template const describe::ClassDescription& describe::Describe<Points>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<Program>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<Program>();
 
 }  // namespace praxen

@@ -11,7 +11,7 @@
 
 namespace praxen {
 
-class Program final : public Serializable<Program> {
+class Program final : public describe::Serializable<Program> {
  public:
   Text Name, TaskConnection, TypeGuid, InstGuid, Description;
   Text SILLevel = u"NonSIL"_text;
@@ -26,7 +26,8 @@ class Program final : public Serializable<Program> {
   Ref<praxen::Signals> Signals = New<praxen::Signals>();
 
   static constexpr std::string_view kHelp = "A program of an application.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&Program::Name>("Name of the program; required for writing."),
         property<&Program::TaskConnection>("Name of the task that runs the program."),
@@ -47,7 +48,8 @@ class Program final : public Serializable<Program> {
         property<&Program::Signals>("Signals of the program."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&Program::Name>(), optional<&Program::TaskConnection>(),
                            optional<&Program::TypeGuid>(), optional<&Program::InstGuid>(),
                            optional<&Program::SILLevel>(), optional<&Program::SimulationMark>(),
@@ -58,11 +60,12 @@ class Program final : public Serializable<Program> {
                          list<&Program::InitValues>(), list<&Program::CodeBlocks>(),
                          strictText<&Program::Description>()}};
   }
-  using Form = Creation<Program, &Program::Name, &Program::Description>;
-  using LongForm = Extended<Form, &Program::TaskConnection, &Program::TypeGuid, &Program::InstGuid>;
+  using Form = describe::Creation<Program, &Program::Name, &Program::Description>;
+  using LongForm =
+      describe::Extended<Form, &Program::TaskConnection, &Program::TypeGuid, &Program::InstGuid>;
 };
 
-extern template const ClassDescription& Describe<Program>();
+extern template const describe::ClassDescription& describe::Describe<Program>();
 
 }  // namespace praxen
 

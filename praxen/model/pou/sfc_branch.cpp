@@ -5,6 +5,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 Ref<SFCBranch> SFCBranches::AddBranch() {
   const Ref<SFCBranch> branch = New<SFCBranch>();
   Add(branch);
@@ -36,7 +38,7 @@ Members SFCBranches::members() {
          positions();
 }
 
-template const ClassDescription& Describe<SFCBranch>();
-template const ClassDescription& Describe<SFCBranches>();
+template const ClassDescription& describe::Describe<SFCBranch>();
+template const ClassDescription& describe::Describe<SFCBranches>();
 
 }  // namespace praxen

@@ -6,17 +6,19 @@
 
 namespace praxen {
 
-class SFCBranch final : public Described<SFCBranch> {
+class SFCBranch final : public describe::Described<SFCBranch> {
  public:
   SFCPriorityValue SFCPriority = pxSFCPriorityDefault;
   Ref<praxen::SFCElements> SFCElements = New<praxen::SFCElements>();
 
   static constexpr std::string_view kHelp = "One of the sequences of a branching.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&SFCBranch::SFCPriority>("Priority among the branches of a selection."),
             property<&SFCBranch::SFCElements>("The sequence.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {optional<&SFCBranch::SFCPriority>()},
             .children = {items<&SFCBranch::SFCElements>()}};
   }
@@ -33,14 +35,15 @@ class SFCBranches final : public Collection<SFCBranches, SFCBranch> {
 
   static constexpr std::string_view kHelp = "The branches of a branching, in order.";
   static constexpr std::string_view kArgument = "br";
-  static Members members();
-  static Layout layout() {
+  static describe::Members members();
+  static describe::Layout layout() {
+    using namespace describe;
     return {.elements = {choice<SFCBranch>()}, .container = Container::None};
   }
 };
 
-extern template const ClassDescription& Describe<SFCBranch>();
-extern template const ClassDescription& Describe<SFCBranches>();
+extern template const describe::ClassDescription& describe::Describe<SFCBranch>();
+extern template const describe::ClassDescription& describe::Describe<SFCBranches>();
 
 }  // namespace praxen
 

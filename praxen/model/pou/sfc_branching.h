@@ -11,8 +11,14 @@ class SFCBranching : public SFCElement<Class> {
  public:
   Ref<praxen::SFCBranches> SFCBranches = New<praxen::SFCBranches>();
 
-  static Members members() { return {property<&SFCBranching::SFCBranches>("The branches.")}; }
-  static Layout layout() { return {.children = {items<&SFCBranching::SFCBranches>()}}; }
+  static describe::Members members() {
+    using namespace describe;
+    return {property<&SFCBranching::SFCBranches>("The branches.")};
+  }
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.children = {items<&SFCBranching::SFCBranches>()}};
+  }
 
   /// Creates the element with a number of empty branches, none when the number is below 1.
   struct Form {

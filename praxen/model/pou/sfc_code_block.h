@@ -14,7 +14,8 @@ class SFCCodeBlock final : public CodeBlock<SFCCodeBlock> {
   Ref<praxen::SFCElements> SFCElements = New<praxen::SFCElements>();
 
   static constexpr std::string_view kHelp = "A code block with a sequential function chart.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&SFCCodeBlock::Name>("Name of the code block; required for writing."),
             property<&SFCCodeBlock::SeqControl>("Whether the chart has sequence control."),
             property<&SFCCodeBlock::StepElapsedTime>("Whether steps show their elapsed time."),
@@ -22,17 +23,19 @@ class SFCCodeBlock final : public CodeBlock<SFCCodeBlock> {
             property<&SFCCodeBlock::SFCElements>("The top-level sequence of the chart."),
             serialize()};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&SFCCodeBlock::Name>(), optional<&SFCCodeBlock::SeqControl>(),
                            optional<&SFCCodeBlock::StepElapsedTime>(),
                            optional<&SFCCodeBlock::SFCViewerAspect>()},
             .children = {items<&SFCCodeBlock::SFCElements>()}};
   }
-  using Form = Creation<SFCCodeBlock, &SFCCodeBlock::Name>;
-  using LongForm = Extended<Form, &SFCCodeBlock::SeqControl, &SFCCodeBlock::StepElapsedTime>;
+  using Form = describe::Creation<SFCCodeBlock, &SFCCodeBlock::Name>;
+  using LongForm =
+      describe::Extended<Form, &SFCCodeBlock::SeqControl, &SFCCodeBlock::StepElapsedTime>;
 };
 
-extern template const ClassDescription& Describe<SFCCodeBlock>();
+extern template const describe::ClassDescription& describe::Describe<SFCCodeBlock>();
 
 }  // namespace praxen
 

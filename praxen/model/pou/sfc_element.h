@@ -16,7 +16,7 @@ class SFCSimultaneous;
 class SFCSubSequence;
 
 /// An element of a sequence of a sequential function chart.
-class ISFCElement : public KindBase<ISFCElement> {
+class ISFCElement : public describe::KindBase<ISFCElement> {
  public:
   ISFCElement() = default;
 
@@ -27,10 +27,11 @@ class ISFCElement : public KindBase<ISFCElement> {
   virtual bool IsSFCSimultaneous() const { return false; }
 
   /// Holds an element that is implemented outside the library.
-  static Ref<Object> Adapt(Interface* foreign);
+  static Ref<Object> Adapt(detail::Interface* foreign);
 
   static constexpr std::string_view kHelp = "An element of a sequential function chart.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         computed<&ISFCElement::IsSFCStep>("Whether it is an SFCStep."),
         computed<&ISFCElement::IsSFCTransition>("Whether it is an SFCTransition."),
@@ -46,7 +47,7 @@ class ISFCElement : public KindBase<ISFCElement> {
 
 /// Answers what `ISFCElement` asks for the concrete `Class`.
 template <class Class>
-class SFCElement : public Described<Class, ISFCElement> {
+class SFCElement : public describe::Described<Class, ISFCElement> {
  public:
   bool IsSFCStep() const final { return std::is_same_v<Class, SFCStep>; }
   bool IsSFCTransition() const final { return std::is_same_v<Class, SFCTransition>; }
@@ -55,7 +56,7 @@ class SFCElement : public Described<Class, ISFCElement> {
   bool IsSFCSimultaneous() const final { return std::is_same_v<Class, SFCSimultaneous>; }
 };
 
-extern template const ClassDescription& Describe<ISFCElement>();
+extern template const describe::ClassDescription& describe::Describe<ISFCElement>();
 
 }  // namespace praxen
 

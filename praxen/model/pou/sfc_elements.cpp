@@ -11,6 +11,8 @@
 
 namespace praxen {
 
+using namespace detail;
+
 namespace {
 
 template <class Form, class... Arguments>
@@ -89,13 +91,13 @@ Layout SFCElements::layout() {
           .container = Container::None};
 }
 
-template const ClassDescription& Describe<ISFCElement>();
-template const ClassDescription& Describe<SFCElements>();
-template const ClassDescription& Describe<SFCStep>();
-template const ClassDescription& Describe<SFCTransition>();
-template const ClassDescription& Describe<SFCSelection>();
-template const ClassDescription& Describe<SFCSimultaneous>();
-template const ClassDescription& Describe<SFCSubSequence>();
-template const ClassDescription& Describe<SFCCodeBlock>();
+template const ClassDescription& describe::Describe<ISFCElement>();
+template const ClassDescription& describe::Describe<SFCElements>();
+template const ClassDescription& describe::Describe<SFCStep>();
+template const ClassDescription& describe::Describe<SFCTransition>();
+template const ClassDescription& describe::Describe<SFCSelection>();
+template const ClassDescription& describe::Describe<SFCSimultaneous>();
+template const ClassDescription& describe::Describe<SFCSubSequence>();
+template const ClassDescription& describe::Describe<SFCCodeBlock>();
 
 }  // namespace praxen

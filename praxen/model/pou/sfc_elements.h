@@ -29,11 +29,11 @@ class SFCElements final : public Collection<SFCElements, ISFCElement> {
 
   static constexpr std::string_view kHelp = "A sequence of a sequential function chart, in order.";
   static constexpr std::string_view kArgument = "elem";
-  static Members members();
-  static Layout layout();
+  static describe::Members members();
+  static describe::Layout layout();
 };
 
-extern template const ClassDescription& Describe<SFCElements>();
+extern template const describe::ClassDescription& describe::Describe<SFCElements>();
 
 }  // namespace praxen
 

@@ -12,7 +12,7 @@ class SFCSelection final : public SFCBranching<SFCSelection> {
       "An alternative branching of a sequential function chart.";
 };
 
-extern template const ClassDescription& Describe<SFCSelection>();
+extern template const describe::ClassDescription& describe::Describe<SFCSelection>();
 
 }  // namespace praxen
 

@@ -11,7 +11,7 @@ class SFCSimultaneous final : public SFCBranching<SFCSimultaneous> {
   static constexpr std::string_view kHelp = "A parallel branching of a sequential function chart.";
 };
 
-extern template const ClassDescription& Describe<SFCSimultaneous>();
+extern template const describe::ClassDescription& describe::Describe<SFCSimultaneous>();
 
 }  // namespace praxen
 

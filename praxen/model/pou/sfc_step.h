@@ -13,7 +13,8 @@ class SFCStep final : public SFCElement<SFCStep> {
   Text P1_Action_STCode, P0_Action_STCode, N_Action_STCode;
 
   static constexpr std::string_view kHelp = "A step of a sequential function chart.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&SFCStep::Name>("Name of the step; required for writing."),
         property<&SFCStep::InitialStep>("Whether the sequence starts with the step."),
@@ -22,24 +23,26 @@ class SFCStep final : public SFCElement<SFCStep> {
         property<&SFCStep::N_Action_STCode>("Structured Text of the action with qualifier N."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&SFCStep::Name>(), optional<&SFCStep::InitialStep>()},
             .children = {action<&SFCStep::P1_Action_STCode>(u"P1_Action"),
                          action<&SFCStep::N_Action_STCode>(u"N_Action"),
                          action<&SFCStep::P0_Action_STCode>(u"P0_Action")}};
   }
-  using Form = Creation<SFCStep, &SFCStep::Name>;
-  using LongForm = Extended<Form, &SFCStep::InitialStep, &SFCStep::P1_Action_STCode,
-                            &SFCStep::N_Action_STCode, &SFCStep::P0_Action_STCode>;
+  using Form = describe::Creation<SFCStep, &SFCStep::Name>;
+  using LongForm = describe::Extended<Form, &SFCStep::InitialStep, &SFCStep::P1_Action_STCode,
+                                      &SFCStep::N_Action_STCode, &SFCStep::P0_Action_STCode>;
 
  private:
   template <auto Code>
-  static Child action(std::u16string_view element) {
+  static describe::Child action(std::u16string_view element) {
+    using namespace describe;
     return textIn<Code>(element, u"ST_Code");
   }
 };
 
-extern template const ClassDescription& Describe<SFCStep>();
+extern template const describe::ClassDescription& describe::Describe<SFCStep>();
 
 }  // namespace praxen
 

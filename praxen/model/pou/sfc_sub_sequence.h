@@ -12,22 +12,24 @@ class SFCSubSequence final : public SFCElement<SFCSubSequence> {
   Ref<praxen::SFCElements> SFCElements = New<praxen::SFCElements>();
 
   static constexpr std::string_view kHelp = "A named part of a sequential function chart.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&SFCSubSequence::SubSeqName>("Name of the subsequence."),
             property<&SFCSubSequence::SFCElements>("The sequence.")};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {optional<&SFCSubSequence::SubSeqName>()},
             .children = {items<&SFCSubSequence::SFCElements>()}};
   }
 
   /// Creates a subsequence; the argument is published as `Name`.
-  struct Form : Creation<SFCSubSequence, &SFCSubSequence::SubSeqName> {
+  struct Form : describe::Creation<SFCSubSequence, &SFCSubSequence::SubSeqName> {
     static std::vector<std::string_view> ParameterNames() { return {"Name"}; }
   };
 };
 
-extern template const ClassDescription& Describe<SFCSubSequence>();
+extern template const describe::ClassDescription& describe::Describe<SFCSubSequence>();
 
 }  // namespace praxen
 

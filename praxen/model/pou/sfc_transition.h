@@ -11,22 +11,25 @@ class SFCTransition final : public SFCElement<SFCTransition> {
   Text Name, Dest, Transition_STCode;
 
   static constexpr std::string_view kHelp = "A transition of a sequential function chart.";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&SFCTransition::Name>("Name of the transition; required for writing."),
         property<&SFCTransition::Dest>("Name of the step that the transition leads to."),
         property<&SFCTransition::Transition_STCode>("Structured Text of the condition."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&SFCTransition::Name>(), optional<&SFCTransition::Dest>()},
             .children = {content<&SFCTransition::Transition_STCode>()}};
   }
-  using Form = Creation<SFCTransition, &SFCTransition::Name>;
-  using LongForm = Extended<Form, &SFCTransition::Transition_STCode, &SFCTransition::Dest>;
+  using Form = describe::Creation<SFCTransition, &SFCTransition::Name>;
+  using LongForm =
+      describe::Extended<Form, &SFCTransition::Transition_STCode, &SFCTransition::Dest>;
 };
 
-extern template const ClassDescription& Describe<SFCTransition>();
+extern template const describe::ClassDescription& describe::Describe<SFCTransition>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<SingleControlModuleInst>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<SingleControlModuleInst>();
 
 }  // namespace praxen

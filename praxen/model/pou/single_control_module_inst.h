@@ -21,7 +21,8 @@ class SingleControlModuleInst final : public ControlModuleInstance<SingleControl
   static constexpr std::string_view kHelp =
       "A control module that is its own type, as an instance.";
   static constexpr const char16_t* kElement = u"SingleControlModule";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&SingleControlModuleInst::Name>(
             "Name of the control module; required for writing."),
@@ -42,7 +43,8 @@ class SingleControlModuleInst final : public ControlModuleInstance<SingleControl
         property<&SingleControlModuleInst::SafetyType>("Safety type."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&SingleControlModuleInst::Name>(),
                            optional<&SingleControlModuleInst::TaskConnection>(),
                            optional<&SingleControlModuleInst::VisibilityInGraphics>(),
@@ -55,14 +57,15 @@ class SingleControlModuleInst final : public ControlModuleInstance<SingleControl
                          list<&SingleControlModuleInst::CMConnections>(),
                          object<&SingleControlModuleInst::GraphPos>()}};
   }
-  using Form = Creation<SingleControlModuleInst, &SingleControlModuleInst::Name>;
+  using Form = describe::Creation<SingleControlModuleInst, &SingleControlModuleInst::Name>;
   using LongForm =
-      Extended<Form, &SingleControlModuleInst::TaskConnection,
-               &SingleControlModuleInst::VisibilityInGraphics, &SingleControlModuleInst::TypeGuid,
-               &SingleControlModuleInst::InstGuid, &SingleControlModuleInst::GraphPos>;
+      describe::Extended<Form, &SingleControlModuleInst::TaskConnection,
+                         &SingleControlModuleInst::VisibilityInGraphics,
+                         &SingleControlModuleInst::TypeGuid, &SingleControlModuleInst::InstGuid,
+                         &SingleControlModuleInst::GraphPos>;
 };
 
-extern template const ClassDescription& Describe<SingleControlModuleInst>();
+extern template const describe::ClassDescription& describe::Describe<SingleControlModuleInst>();
 
 }  // namespace praxen
 

@@ -5,6 +5,8 @@
 
 namespace praxen {
 
-template const ClassDescription& Describe<SingleControlModuleType>();
+using namespace detail;
+
+template const ClassDescription& describe::Describe<SingleControlModuleType>();
 
 }  // namespace praxen

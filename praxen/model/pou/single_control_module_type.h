@@ -15,7 +15,7 @@
 
 namespace praxen {
 
-class SingleControlModuleType final : public Serializable<SingleControlModuleType> {
+class SingleControlModuleType final : public describe::Serializable<SingleControlModuleType> {
  public:
   Text Name, InteractionWindow;
   bool AlarmOwner = false;
@@ -38,7 +38,8 @@ class SingleControlModuleType final : public Serializable<SingleControlModuleTyp
 
   static constexpr std::string_view kHelp = "A control module that is its own type, as a type.";
   static constexpr const char16_t* kElement = u"SingleControlModule";
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {
         property<&SingleControlModuleType::Name>(
             "Name of the control module; required for writing."),
@@ -76,7 +77,8 @@ class SingleControlModuleType final : public Serializable<SingleControlModuleTyp
         property<&SingleControlModuleType::Signals>("Signals of the control module."),
     };
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&SingleControlModuleType::Name>(),
                            optional<&SingleControlModuleType::InteractionWindow>(),
                            optional<&SingleControlModuleType::AlarmOwner>(),
@@ -99,15 +101,15 @@ class SingleControlModuleType final : public Serializable<SingleControlModuleTyp
                          text<&SingleControlModuleType::Description>(),
                          object<&SingleControlModuleType::GraphSize>()}};
   }
-  using Form = Creation<SingleControlModuleType, &SingleControlModuleType::Name,
-                        &SingleControlModuleType::Description>;
+  using Form = describe::Creation<SingleControlModuleType, &SingleControlModuleType::Name,
+                                  &SingleControlModuleType::Description>;
   using LongForm =
-      Extended<Form, &SingleControlModuleType::InteractionWindow,
-               &SingleControlModuleType::AlarmOwner, &SingleControlModuleType::TypeGuid,
-               &SingleControlModuleType::GraphSize>;
+      describe::Extended<Form, &SingleControlModuleType::InteractionWindow,
+                         &SingleControlModuleType::AlarmOwner, &SingleControlModuleType::TypeGuid,
+                         &SingleControlModuleType::GraphSize>;
 };
 
-extern template const ClassDescription& Describe<SingleControlModuleType>();
+extern template const describe::ClassDescription& describe::Describe<SingleControlModuleType>();
 
 }  // namespace praxen
 

@@ -11,7 +11,7 @@ class STCodeBlock final : public TextCodeBlock<STCodeBlock> {
   static constexpr std::string_view kHelp = "A code block in Structured Text.";
 };
 
-extern template const ClassDescription& Describe<STCodeBlock>();
+extern template const describe::ClassDescription& describe::Describe<STCodeBlock>();
 
 }  // namespace praxen
 

@@ -13,22 +13,25 @@ class TextCodeBlock : public CodeBlock<Class> {
  public:
   Text Name, STcode;
 
-  static Members members() {
+  static describe::Members members() {
+    using namespace describe;
     return {property<&TextCodeBlock::Name>("Name of the code block; required for writing."),
             property<&TextCodeBlock::STcode>("The code."), serialize()};
   }
-  static Layout layout() {
+  static describe::Layout layout() {
+    using namespace describe;
     return {.attributes = {required<&TextCodeBlock::Name>()},
             .children = {textAlways<&TextCodeBlock::STcode>(u"ST_Code")}};
   }
-  using Form = Creation<Class, &TextCodeBlock::Name>;
-  using LongForm = Extended<Form, byReference<&TextCodeBlock::STcode>>;
+  using Form = describe::Creation<Class, &TextCodeBlock::Name>;
+  using LongForm = describe::Extended<Form, describe::byReference<&TextCodeBlock::STcode>>;
 
  protected:
   /// The layout of a class whose code may hold entity texts: they are written as what they stand
   /// for, so that they are not escaped twice.
-  static Layout unescapingLayout() {
-    Layout layout = TextCodeBlock::layout();
+  static describe::Layout unescapingLayout() {
+    using namespace describe;
+    describe::Layout layout = TextCodeBlock::layout();
     layout.children.front().writtenAs = &UnescapeText;
     return layout;
   }
