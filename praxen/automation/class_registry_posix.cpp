@@ -1,5 +1,4 @@
 // The registry of classes: a text file that is read as a whole and replaced as a whole.
-
 #include "praxen/automation/class_registry_posix.h"
 
 #include <sys/stat.h>
@@ -26,7 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // A file beyond this size is none of ours, and is neither read nor replaced.
-constexpr std::uintmax_t kMaxFileSize = 4 << 20;
+constexpr uintmax_t kMaxFileSize = 4 << 20;
 
 // A class as a line of the file states it.
 struct Line {
@@ -35,25 +34,20 @@ struct Line {
   std::string_view server;
 };
 
-std::string_view Trim(std::string_view text) {
-  constexpr std::string_view kBlanks = " \r";
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+std::string_view WithoutBlanks(std::string_view text) { return Trim<char>(text, " \r"); }
 
 // The text before the separator, or all of it; rest keeps what follows.
 std::string_view TakeUntil(std::string_view& rest, char separator) {
-  const std::size_t end = rest.find(separator);
+  const size_t end = rest.find(separator);
   const std::string_view taken = rest.substr(0, end);
   rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 1);
   return taken;
 }
 
 std::optional<Line> ParseLine(std::string_view text) {
-  const std::string_view progId = Trim(TakeUntil(text, '\t'));
-  const auto clsid = TextToGuid(Trim(TakeUntil(text, '\t')));
-  const std::string_view server = Trim(text);
+  const std::string_view progId = WithoutBlanks(TakeUntil(text, '\t'));
+  const auto clsid = TextToGuid(WithoutBlanks(TakeUntil(text, '\t')));
+  const std::string_view server = WithoutBlanks(text);
   const bool hasPath = server.starts_with('/') && server.find('\0') == std::string_view::npos;
   if (progId.empty() || !clsid || !hasPath) return std::nullopt;
   return Line{progId, *clsid, server};
@@ -78,10 +72,10 @@ std::optional<std::string> ReadFile(const fs::path& file) {
   const fs::file_status status = fs::status(file, error);
   if (status.type() == fs::file_type::not_found) return std::string();
   if (!fs::is_regular_file(status)) return std::nullopt;
-  const std::uintmax_t size = fs::file_size(file, error);
+  const uintmax_t size = fs::file_size(file, error);
   if (error || size > kMaxFileSize) return std::nullopt;
   std::ifstream stream(file, std::ios::binary);
-  std::string text(static_cast<std::size_t>(size), '\0');
+  std::string text(static_cast<size_t>(size), '\0');
   if (!stream.read(text.data(), static_cast<std::streamsize>(size))) return std::nullopt;
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   if (text.starts_with(kByteOrderMark)) text.erase(0, kByteOrderMark.size());
@@ -93,7 +87,7 @@ bool WriteAll(int descriptor, std::string_view text) {
     const ssize_t written = ::write(descriptor, text.data(), text.size());
     if (written < 0 && errno == EINTR) continue;
     if (written <= 0) return false;
-    text.remove_prefix(static_cast<std::size_t>(written));
+    text.remove_prefix(static_cast<size_t>(written));
   }
   return true;
 }

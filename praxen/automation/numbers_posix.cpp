@@ -1,23 +1,22 @@
 // Decimal text and numbers, as automation converts them.
-
 #include "praxen/automation/numbers_posix.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
+
+#include "praxen/core/ascii.h"
+#include "praxen/core/decimal.h"
 
 namespace praxen::detail {
 
 namespace {
 
 // Exponents stop counting here, far beyond what any number holds.
-constexpr std::int64_t kMaxExponent = 1'000'000'000;
+constexpr int64_t kMaxExponent = 1'000'000'000;
 
 bool IsBlank(char16_t c) { return c == u' ' || (c >= u'\t' && c <= u'\r'); }
-
-bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 
 class DecimalParser {
  public:
@@ -80,10 +79,10 @@ class DecimalParser {
 
   bool ReadDigits() {
     std::string& digits = number_.digits;
-    while (IsDigit(Peek()) || (!digits.empty() && Peek() == u',')) TakeDigit();
-    number_.point = static_cast<std::int64_t>(digits.size());
+    while (IsDigitAscii(Peek()) || (!digits.empty() && Peek() == u',')) TakeDigit();
+    number_.point = static_cast<int64_t>(digits.size());
     if (Skip(u'.')) {
-      while (IsDigit(Peek())) TakeDigit();
+      while (IsDigitAscii(Peek())) TakeDigit();
     }
     return !digits.empty();
   }
@@ -97,9 +96,9 @@ class DecimalParser {
     if (!Skip(u'e') && !Skip(u'E')) return true;
     const bool minus = Peek() == u'-';
     if (!Skip(u'-')) Skip(u'+');
-    if (!IsDigit(Peek())) return false;
-    std::int64_t exponent = 0;
-    for (; IsDigit(Peek()); ++at_) {
+    if (!IsDigitAscii(Peek())) return false;
+    int64_t exponent = 0;
+    for (; IsDigitAscii(Peek()); ++at_) {
       exponent = std::min(exponent * 10 + (Peek() - u'0'), kMaxExponent);
     }
     number_.point += minus ? -exponent : exponent;
@@ -108,21 +107,21 @@ class DecimalParser {
 
   void Normalize() {
     std::string& digits = number_.digits;
-    const std::size_t first = std::min(digits.find_first_not_of('0'), digits.size());
+    const size_t first = std::min(digits.find_first_not_of('0'), digits.size());
     digits.erase(0, first);
     digits.erase(digits.find_last_not_of('0') + 1);
-    number_.point = digits.empty() ? 0 : number_.point - static_cast<std::int64_t>(first);
+    number_.point = digits.empty() ? 0 : number_.point - static_cast<int64_t>(first);
   }
 
   std::u16string_view text_;
-  std::size_t at_ = 0;
+  size_t at_ = 0;
   bool signed_ = false;
   bool open_ = false;
   DecimalNumber number_;
 };
 
 // Whether what follows the digit at index (the first that is cut off) rounds an integer up.
-bool RoundsUp(const std::string& digits, std::size_t index, bool odd) {
+bool RoundsUp(const std::string& digits, size_t index, bool odd) {
   if (index >= digits.size() || digits[index] != '5') {
     return index < digits.size() && digits[index] > '5';
   }
@@ -134,45 +133,19 @@ std::string FormatNonFinite(double value) {
   return value < 0 ? "-1.#INF" : "1.#INF";
 }
 
-// Digits of a positive number and the power of ten of the first one.
-struct ScientificDigits {
-  std::string digits;
-  int exponent = 0;
-};
-
-ScientificDigits ToScientific(double value, int significantDigits) {
-  std::array<char, 64> buffer;
-  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                 std::chars_format::scientific, significantDigits - 1)
-                       .ptr;
-  const char* const mark = std::find(buffer.data(), end, 'e');
-  ScientificDigits result;
-  std::copy_if(static_cast<const char*>(buffer.data()), mark, std::back_inserter(result.digits),
-               [](char c) { return c != '.'; });
-  result.digits.erase(result.digits.find_last_not_of('0') + 1);
-  std::from_chars(mark + (mark[1] == '+' ? 2 : 1), end, result.exponent);
-  return result;
-}
-
-std::string FormatExponent(int exponent) {
-  const std::string digits = std::to_string(std::abs(exponent));
-  return std::string(exponent < 0 ? "E-" : "E+") + (digits.size() < 2 ? "0" : "") + digits;
-}
-
-std::string FormatPositive(const ScientificDigits& number, int significantDigits) {
-  const std::string& digits = number.digits;
-  const int exponent = number.exponent;
-  const int count = static_cast<int>(digits.size());
-  if (exponent < 0 && count - exponent - 1 <= significantDigits) {
-    return "0." + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
+std::string FormatPositive(const Decimal& number, int significantDigits) {
+  const int exponent = number.exponent();
+  const int count = static_cast<int>(number.digits().size());
+  std::string text;
+  const auto append = [&](std::string_view characters) { text.append(characters); };
+  const int places = exponent < 0 ? count - exponent - 1 : exponent + 1;
+  if (places > significantDigits) {
+    number.AppendScientific(append);
+  } else {
+    if (exponent < 0) text = "0";
+    number.AppendPlain(append);
   }
-  if (exponent < 0 || exponent >= significantDigits) {
-    const std::string fraction = count > 1 ? "." + digits.substr(1) : std::string();
-    return digits.substr(0, 1) + fraction + FormatExponent(exponent);
-  }
-  const auto whole = static_cast<std::size_t>(exponent + 1);
-  if (digits.size() <= whole) return digits + std::string(whole - digits.size(), '0');
-  return digits.substr(0, whole) + "." + digits.substr(whole);
+  return text;
 }
 
 }  // namespace
@@ -198,13 +171,13 @@ std::optional<T> ToReal(const DecimalNumber& number) {
 template std::optional<float> ToReal(const DecimalNumber& number);
 template std::optional<double> ToReal(const DecimalNumber& number);
 
-std::optional<std::uint64_t> ToMagnitude(const DecimalNumber& number, int scale) {
-  const std::int64_t whole = number.point + scale;
+std::optional<uint64_t> ToMagnitude(const DecimalNumber& number, int scale) {
+  const int64_t whole = number.point + scale;
   if (whole < 0 || number.digits.empty()) return 0;
-  if (whole > std::numeric_limits<std::uint64_t>::digits10 + 1) return std::nullopt;
-  const auto count = static_cast<std::size_t>(whole);
-  std::uint64_t value = 0;
-  for (std::size_t i = 0; i < count; ++i) {
+  if (whole > std::numeric_limits<uint64_t>::digits10 + 1) return std::nullopt;
+  const auto count = static_cast<size_t>(whole);
+  uint64_t value = 0;
+  for (size_t i = 0; i < count; ++i) {
     const int digit = i < number.digits.size() ? number.digits[i] - '0' : 0;
     if (__builtin_mul_overflow(value, 10, &value)) return std::nullopt;
     if (__builtin_add_overflow(value, digit, &value)) return std::nullopt;
@@ -220,13 +193,13 @@ std::string FormatReal(double value, int significantDigits) {
   if (!std::isfinite(value)) return FormatNonFinite(value);
   if (value == 0) return "0";
   const std::string text =
-      FormatPositive(ToScientific(std::abs(value), significantDigits), significantDigits);
+      FormatPositive(Decimal(std::abs(value), significantDigits), significantDigits);
   return value < 0 ? "-" + text : text;
 }
 
-std::string FormatTenThousandths(std::int64_t amount) {
-  const auto bits = static_cast<std::uint64_t>(amount);
-  const std::uint64_t magnitude = amount < 0 ? 0 - bits : bits;
+std::string FormatTenThousandths(int64_t amount) {
+  const auto bits = static_cast<uint64_t>(amount);
+  const uint64_t magnitude = amount < 0 ? 0 - bits : bits;
   std::string text = (amount < 0 ? "-" : "") + std::to_string(magnitude / 10'000);
   // The leading 1 keeps the zeros that follow the decimal point.
   std::string fraction = std::to_string(10'000 + magnitude % 10'000).substr(1);

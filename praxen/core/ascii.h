@@ -16,6 +16,20 @@ constexpr Char ToLowerAscii(Char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<Char>(c + ('a' - 'A')) : c;
 }
 
+template <class Char>
+constexpr bool IsDigitAscii(Char c) {
+  return c >= '0' && c <= '9';
+}
+
+/// The text without the characters of `blanks` at its ends.
+template <class Char>
+constexpr std::basic_string_view<Char> Trim(std::basic_string_view<Char> text,
+                                            std::basic_string_view<Char> blanks) {
+  const size_t first = text.find_first_not_of(blanks);
+  if (first == text.npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
 /// Orders two texts as they stand in lower case.
 template <class CharA, class CharB>
 constexpr bool LessIgnoringCase(std::basic_string_view<CharA> a, std::basic_string_view<CharB> b) {

@@ -1,15 +1,13 @@
 // Conversions of numbers to and from text, independent of the C library's locale.
 #include "praxen/core/numbers.h"
 
-#include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <iterator>
 #include <string>
 
 #include "praxen/core/ascii.h"
+#include "praxen/core/decimal.h"
 #include "praxen/core/error.h"
 #include "praxen/core/locale.h"
 
@@ -17,28 +15,18 @@ namespace praxen::detail {
 
 namespace {
 
-// Numbers of this many digits before the point, or leading zeros behind it, get an exponent.
+// Numbers of this many digits before the point, or leading zeros after it, get an exponent.
 constexpr int kMostPlainDigits = 15;
-
-std::u16string_view TrimBlanks(std::u16string_view text) {
-  const size_t first = text.find_first_not_of(u" \t\r\n");
-  if (first == std::u16string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(u" \t\r\n") - first + 1);
-}
 
 // The text in ASCII for from_chars, which takes no "+"; empty when it cannot be a number. What
 // from_chars takes besides numbers, "inf" and "nan", does not begin with a digit or point.
 std::string ToAscii(std::u16string_view text) {
-  text = TrimBlanks(text);
+  text = Trim<char16_t>(text, u" \t\r\n");
   const bool negative = text.starts_with(u'-');
   if (negative || text.starts_with(u'+')) text.remove_prefix(1);
-  if (text.empty() || !(text[0] == u'.' || (text[0] >= u'0' && text[0] <= u'9'))) return {};
-  std::string ascii(negative ? "-" : "");
-  for (const char16_t character : text) {
-    if (character > 0x7E) return {};
-    ascii.push_back(static_cast<char>(character));
-  }
-  return ascii;
+  if (text.empty() || !(text[0] == u'.' || IsDigitAscii(text[0]))) return {};
+  std::string ascii = NarrowAscii(text).value_or("");
+  return negative && !ascii.empty() ? "-" + ascii : ascii;
 }
 
 template <class Number>
@@ -59,25 +47,6 @@ void ReplaceAll(std::u16string& text, std::u16string_view from, std::u16string_v
 
 }  // namespace
 
-// The shortest digits that read back to the same number, and the power of ten of the first.
-struct NumberText::Decimal {
-  explicit Decimal(double number) {
-    char buffer[32];
-    const auto format = std::chars_format::scientific;
-    const char* const end = std::to_chars(buffer, std::end(buffer), number, format).ptr;
-    const char* const mark = std::find(static_cast<const char*>(buffer), end, 'e');
-    count = static_cast<size_t>(
-        std::remove_copy(static_cast<const char*>(buffer), mark, characters, '.') - characters);
-    // from_chars takes no "+".
-    std::from_chars(mark[1] == '+' ? mark + 2 : mark + 1, end, exponent);
-  }
-  std::string_view digits() const { return {characters, count}; }
-
-  char characters[32];
-  size_t count;
-  int exponent = 0;
-};
-
 NumberText::NumberText(int32_t number) {
   char digits[12];
   const auto end = std::to_chars(digits, std::end(digits), number).ptr;
@@ -88,42 +57,16 @@ NumberText::NumberText(double number) {
   if (!std::isfinite(number)) throw InvalidArgument(u"The number is not finite"_text);
   Append(number < 0 ? u'-' : u' ');
   const Decimal decimal(std::fabs(number));
-  if (decimal.exponent >= kMostPlainDigits || decimal.exponent < -kMostPlainDigits) {
-    AppendScientific(decimal);
+  const auto append = [this](std::string_view characters) { Append(characters); };
+  if (decimal.exponent() >= kMostPlainDigits || decimal.exponent() < -kMostPlainDigits) {
+    decimal.AppendScientific(append);
   } else {
-    AppendPlain(decimal);
+    decimal.AppendPlain(append);
   }
-}
-
-void NumberText::AppendScientific(const Decimal& decimal) {
-  Append(decimal.digits().substr(0, 1));
-  if (decimal.count > 1) Append(u'.');
-  Append(decimal.digits().substr(1));
-  const NumberText exponent(std::abs(decimal.exponent));
-  Append(decimal.exponent < 0 ? "E-" : "E+");
-  if (exponent.length_ < 2) Append(u'0');
-  for (size_t i = 0; i < exponent.length_; ++i) Append(exponent.characters_[i]);
-}
-
-void NumberText::AppendPlain(const Decimal& decimal) {
-  if (decimal.exponent < 0) {
-    Append(u'.');
-    AppendZeros(-decimal.exponent - 1);
-    return Append(decimal.digits());
-  }
-  const size_t whole = static_cast<size_t>(decimal.exponent) + 1;
-  Append(decimal.digits().substr(0, whole));
-  if (decimal.count <= whole) return AppendZeros(static_cast<int>(whole - decimal.count));
-  Append(u'.');
-  Append(decimal.digits().substr(whole));
 }
 
 void NumberText::Append(std::string_view characters) {
   for (const char character : characters) Append(static_cast<char16_t>(character));
-}
-
-void NumberText::AppendZeros(int count) {
-  for (; count > 0; --count) Append(u'0');
 }
 
 std::u16string DecimalText(size_t number) { return WidenAscii(std::to_string(number)); }

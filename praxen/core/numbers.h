@@ -24,13 +24,8 @@ class NumberText {
   operator std::u16string_view() const noexcept { return {characters_, length_}; }  // NOLINT
 
  private:
-  struct Decimal;
-
-  void AppendScientific(const Decimal& decimal);
-  void AppendPlain(const Decimal& decimal);
   void Append(char16_t character) { characters_[length_++] = character; }
   void Append(std::string_view characters);
-  void AppendZeros(int count);
 
   char16_t characters_[48];
   size_t length_ = 0;
