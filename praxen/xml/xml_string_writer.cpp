@@ -4,9 +4,11 @@
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 #include "praxen/core/counters.h"
 #include "praxen/core/error.h"
+#include "praxen/xml/xml_escape.h"
 #include "praxen/xml/xml_limits.h"
 
 namespace praxen::detail {
@@ -18,27 +20,13 @@ constinit bool include_line_breaks = true;
 constexpr int32_t kGrowthStep = 32768;
 constexpr int32_t kFirstCapacity = 65536;
 
-// The characters that must not stand in a value, and the references that replace them.
-constexpr std::u16string_view Reference(char16_t character, bool attribute) {
-  switch (character) {
-    case u'&':
-      return u"&amp;";
-    case u'<':
-      return u"&lt;";
-    case u'>':
-      return u"&gt;";
-    case u'"':
-      return attribute ? u"&quot;" : u"";
-    case u'\'':
-      return attribute ? u"&apos;" : u"";
-    default:
-      return {};
-  }
-}
-
 template <bool Attribute>
 constexpr bool IsEscaped(char16_t character) {
-  return !Reference(character, Attribute).empty();
+  constexpr std::u16string_view kEscaped = Attribute ? kEscapedInValues : kEscapedInText;
+  return [&]<size_t... Index>(std::index_sequence<Index...>) {
+    return ((character == kEscaped[Index]) || ...);
+  }
+  (std::make_index_sequence<kEscaped.size()>());
 }
 
 // Characters that are looked at and copied together.
@@ -88,7 +76,7 @@ template <bool Attribute>
 }
 
 // Copies the characters before the first that must be escaped, and returns their number. What lies
-// behind them, up to the length of the value, is of any content.
+// after them, up to the length of the value, is of any content.
 template <bool Attribute>
 [[gnu::always_inline]] inline size_t CopyPlain(std::u16string_view value, char16_t* to) {
   const char16_t* const from = value.data();
@@ -240,7 +228,7 @@ void XMLStringWriter::WriteEscaped(std::u16string_view value) {
     const size_t plain = CopyPlain<Attribute>(value, end);
     buffer_.EndAt(end + plain);
     if (plain == value.size()) return;
-    buffer_.Append(Reference(value[plain], Attribute));
+    buffer_.Append(XmlReference(value[plain]));
     value.remove_prefix(plain + 1);
   }
 }

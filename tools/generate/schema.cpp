@@ -6,6 +6,7 @@
 
 #include "praxen/describe/description.h"
 #include "praxen/factory/classes.h"
+#include "praxen/xml/xml_escape.h"
 
 namespace praxen::detail {
 
@@ -73,32 +74,13 @@ void DeclareClass(Declarations& declarations, const Layout& layout) {
   for (const Child& child : layout.children) DeclareChild(declarations, child);
 }
 
-std::string Escape(std::u16string_view value) {
-  std::string escaped;
-  for (const char character : ToUtf8(value)) {
-    switch (character) {
-      case '&':
-        escaped += "&amp;";
-        break;
-      case '<':
-        escaped += "&lt;";
-        break;
-      case '"':
-        escaped += "&quot;";
-        break;
-      default:
-        escaped += character;
-    }
-  }
-  return escaped;
-}
-
 std::string Attributes(const ElementDeclaration& element, const std::string& indent) {
   std::string text;
   for (const AttributeDeclaration& attribute : element.attributes) {
     text += indent + "<xs:attribute name=\"" + ToUtf8(attribute.name) + "\" type=\"xs:string\"";
     if (attribute.required) text += " use=\"required\"";
-    if (attribute.defaultValue) text += " default=\"" + Escape(*attribute.defaultValue) + "\"";
+    if (attribute.defaultValue)
+      text += " default=\"" + ToUtf8(EscapeXml(*attribute.defaultValue, kEscapedInValues)) + "\"";
     text += "/>\n";
   }
   return text;
