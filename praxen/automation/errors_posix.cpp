@@ -1,15 +1,14 @@
 // Error objects, and the one that each thread holds for its caller.
-
-#include <atomic>
 #include <new>
 
 #include "praxen/automation/automation.h"
+#include "praxen/automation/counted.h"
 #include "praxen/automation/values.h"
 
 namespace {
 
-// One object behind both interfaces: what a server fills, its client reads.
-class ErrorObject final : public ICreateErrorInfo, public IErrorInfo {
+// One object has both interfaces: what a server fills, its client reads.
+class ErrorObject final : public praxen::detail::Counted<ICreateErrorInfo, IErrorInfo> {
  public:
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
     if (object == nullptr) return E_POINTER;
@@ -23,14 +22,6 @@ class ErrorObject final : public ICreateErrorInfo, public IErrorInfo {
     }
     AddRef();
     return S_OK;
-  }
-
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
   }
 
   HRESULT STDMETHODCALLTYPE SetGUID(REFGUID guid) override {
@@ -70,8 +61,6 @@ class ErrorObject final : public ICreateErrorInfo, public IErrorInfo {
   }
 
  private:
-  ~ErrorObject() = default;
-
   static HRESULT Set(praxen::BStr& text, LPCOLESTR value) {
     auto copy = praxen::BStr::Attach(SysAllocString(value));
     if (value != nullptr && copy.Get() == nullptr) return E_OUTOFMEMORY;
@@ -92,7 +81,6 @@ class ErrorObject final : public ICreateErrorInfo, public IErrorInfo {
     return S_OK;
   }
 
-  std::atomic<ULONG> references_ = 1;
   GUID guid_ = GUID_NULL;
   praxen::BStr source_;
   praxen::BStr description_;

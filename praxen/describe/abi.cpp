@@ -1,7 +1,7 @@
 // The boundary of the interface tables: values, objects and exceptions that cross it.
 #include <cstring>
-#include <new>
 
+#include "praxen/automation/guard.h"
 #include "praxen/automation/values.h"
 #include "praxen/core/error.h"
 #include "praxen/describe/description.h"
@@ -14,8 +14,6 @@ namespace praxen::detail::abi {
 static_assert(sizeof(Variant) == sizeof(VARIANT) && alignof(Variant) == alignof(VARIANT));
 
 namespace {
-
-struct NullPointer {};
 
 Text DescriptionOf(HRESULT code) {
   switch (code) {
@@ -31,25 +29,29 @@ Text DescriptionOf(HRESULT code) {
       return u"Wrong number of arguments"_text;
     case DISP_E_MEMBERNOTFOUND:
       return u"The object has no such property or method"_text;
+    case E_POINTER:
+      return u"Null pointer"_text;
+    case E_OUTOFMEMORY:
+      return u"Out of memory"_text;
+    case E_UNEXPECTED:
+      return u"Unexpected failure"_text;
     default:
       return u"Invalid argument"_text;
   }
 }
 
 Failure FailureInFlight() noexcept {
+  Result code;
   try {
     throw;
-  } catch (const NullPointer&) {
-    return {E_POINTER, {}, u"Null pointer"_text};
-  } catch (const ArgumentError& error) {
-    return {error.code, {}, DescriptionOf(error.code)};
   } catch (const Error& error) {
     return {static_cast<Result>(error.number()), error.source(), error.description()};
-  } catch (const std::bad_alloc&) {
-    return {E_OUTOFMEMORY, {}, u"Out of memory"_text};
+  } catch (const ArgumentError& error) {
+    code = error.code;
   } catch (...) {
-    return {E_UNEXPECTED, {}, u"Unexpected failure"_text};
+    code = ResultInFlight();
   }
+  return {code, {}, DescriptionOf(code)};
 }
 
 LPOLESTR ToCharacters(const Text& text) {
@@ -86,7 +88,7 @@ Failure ReportFailure() noexcept {
   return failure;
 }
 
-void ThrowNullPointer() { throw NullPointer(); }
+void ThrowNullPointer() { throw ArgumentError{E_POINTER, nullptr}; }
 
 Text ToText(const char16_t* string) {
   return ViewOf(reinterpret_cast<BSTR>(const_cast<char16_t*>(string)));

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "praxen/automation/border.h"
 #include "praxen/describe/object.h"
 #include "praxen/describe/value_type.h"
 
@@ -42,12 +43,11 @@ Failure ReportFailure() noexcept;
 /// Runs an operation for a caller outside the library.
 template <class Operation>
 Result Guard(Operation operation) noexcept {
-  try {
+  const auto work = [&] {
     operation();
-    return 0;
-  } catch (...) {
-    return ReportFailure().code;
-  }
+    return Result{0};
+  };
+  return AtBorder(work, [] { return ReportFailure().code; });
 }
 
 template <class T>

@@ -3,6 +3,7 @@
 #define PRAXEN_DESCRIBE_TEAR_OFF_H_
 
 #include "praxen/automation/automation.h"
+#include "praxen/automation/counted.h"
 #include "praxen/describe/dispatch.h"
 
 namespace praxen::describe {
@@ -10,29 +11,18 @@ namespace praxen::describe {
 /// An interface that needs no place in the object. It is counted on its own, so that the object
 /// needs to know nothing of it; any other interface is asked of the object.
 template <class I>
-class TearOff : public I {
+class TearOff : public detail::Counted<I> {
  public:
-  TearOff(const TearOff&) = delete;
-  TearOff& operator=(const TearOff&) = delete;
-
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
     return dispatch::QueryInterface(*object_, iid, out);
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG remaining = --references_;
-    if (remaining == 0) delete this;
-    return remaining;
   }
 
  protected:
   explicit TearOff(Object& object) : object_(&object) {}
-  virtual ~TearOff() = default;
 
   const ClassDescription& description() const { return object_->description(); }
 
  private:
-  ULONG references_ = 1;
   const Ref<Object> object_;
 };
 

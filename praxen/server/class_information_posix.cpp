@@ -6,7 +6,9 @@
 #include <string_view>
 #include <utility>
 
+#include "praxen/automation/border.h"
 #include "praxen/automation/guid.h"
+#include "praxen/core/ascii.h"
 #include "praxen/core/enumerations.h"
 #include "praxen/core/text.h"
 #include "praxen/describe/identifiers.h"
@@ -70,11 +72,7 @@ const ClassTexts& TextsOf(const ClassDescription& description) {
 // Null stands for an exception: memory is short, or an object is not of this library.
 template <class Work>
 const char* TextOrNull(Work work) noexcept {
-  try {
-    return work();
-  } catch (...) {
-    return nullptr;
-  }
+  return AtBorder(work, [] { return nullptr; });
 }
 
 }  // namespace

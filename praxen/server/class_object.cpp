@@ -1,6 +1,7 @@
 // Class objects: one is made for each request and keeps the library loaded as objects do.
 #include "praxen/server/class_object.h"
 
+#include "praxen/automation/counted.h"
 #include "praxen/automation/guard.h"
 #include "praxen/automation/values.h"
 #include "praxen/core/counters.h"
@@ -13,13 +14,12 @@ namespace {
 
 constinit int32_t locks = 0;
 
-class ClassObject final : public IClassFactory {
+class ClassObject final : public Counted<IClassFactory> {
  public:
   explicit ClassObject(const ClassDescription& description) : description_(description) {
     CountModuleObject(1);
   }
-  ClassObject(const ClassObject&) = delete;
-  ClassObject& operator=(const ClassObject&) = delete;
+  ~ClassObject() override { CountModuleObject(-1); }
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
     if (out == nullptr) return E_POINTER;
@@ -28,12 +28,6 @@ class ClassObject final : public IClassFactory {
     AddRef();
     *out = this;
     return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const ULONG remaining = --references_;
-    if (remaining == 0) delete this;
-    return remaining;
   }
 
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** out) override {
@@ -54,10 +48,7 @@ class ClassObject final : public IClassFactory {
   }
 
  private:
-  ~ClassObject() { CountModuleObject(-1); }
-
   const ClassDescription& description_;
-  ULONG references_ = 1;
 };
 
 }  // namespace
