@@ -1,14 +1,15 @@
 // The life of variants: empty, copied, dereferenced and cleared.
-
 #include "praxen/automation/variants_posix.h"
 
 #include <cstring>
 #include <optional>
 
+#include "praxen/automation/variants.h"
+
 namespace {
 
 // The bytes that a value of the type takes; none for types that do not exist here.
-std::optional<std::size_t> SizeOfValue(int type) {
+std::optional<size_t> SizeOfValue(int type) {
   switch (type) {
     case VT_EMPTY:
     case VT_NULL:
@@ -46,24 +47,6 @@ std::optional<std::size_t> SizeOfValue(int type) {
 
 bool IsReference(const VARIANT& variant) { return (variant.vt & VT_BYREF) != 0; }
 
-bool IsVariantReference(const VARIANT& variant) { return variant.vt == (VT_BYREF | VT_VARIANT); }
-
-// Copies the bits of the value that the reference leads to.
-HRESULT ReadReference(const VARIANT& reference, VARIANT& view) {
-  const int type = reference.vt & ~VT_BYREF;
-  const auto size = SizeOfValue(type);
-  if (!size) return DISP_E_BADVARTYPE;
-  if (*size == 0 || reference.byref == nullptr) return E_INVALIDARG;
-  VariantInit(&view);
-  if (type == VT_DECIMAL) {
-    view.decVal = *reference.pdecVal;
-  } else {
-    std::memcpy(&view.llVal, reference.byref, *size);
-  }
-  view.vt = static_cast<VARTYPE>(type);
-  return S_OK;
-}
-
 // Gives a variant whose bits were copied its own text or its own count on the object.
 HRESULT TakeShare(VARIANT& variant) {
   if (variant.vt == VT_BSTR && variant.bstrVal != nullptr) {
@@ -95,14 +78,18 @@ HRESULT Exchange(VARIANT& target, VARIANT copy) {
 namespace praxen::detail {
 
 HRESULT BorrowValue(const VARIANT& source, VARIANT& view) noexcept {
-  const VARIANT* from = &source;
-  if (IsVariantReference(*from)) {
-    from = from->pvarVal;
-    if (from == nullptr || IsVariantReference(*from)) return E_INVALIDARG;
+  const VariantValue value = ValueOf(source);
+  if (value.type == (VT_BYREF | VT_VARIANT)) return E_INVALIDARG;
+  const auto size = SizeOfValue(value.type);
+  if (!size) return DISP_E_BADVARTYPE;
+  if (value.place == nullptr) return E_INVALIDARG;
+  VariantInit(&view);
+  if (value.type == VT_DECIMAL) {
+    view.decVal = *static_cast<const DECIMAL*>(value.place);
+  } else {
+    std::memcpy(&view.llVal, value.place, *size);
   }
-  if (IsReference(*from)) return ReadReference(*from, view);
-  if (!SizeOfValue(from->vt)) return DISP_E_BADVARTYPE;
-  view = *from;
+  view.vt = value.type;
   return S_OK;
 }
 

@@ -1,5 +1,4 @@
 // Reading variants without copying what they own.
-
 #ifndef PRAXEN_AUTOMATION_VARIANTS_POSIX_H_
 #define PRAXEN_AUTOMATION_VARIANTS_POSIX_H_
 
@@ -7,9 +6,9 @@
 
 namespace praxen::detail {
 
-// Makes view the value of source or what it refers to, borrowed: view must not be cleared.
-// E_INVALIDARG for a null reference and for a reference to a reference to a variant,
-// DISP_E_BADVARTYPE for a type unknown.
+/// Makes view the value of source or what it refers to, borrowed: view must not be cleared.
+/// E_INVALIDARG for a null reference and for a reference to a reference to a variant,
+/// DISP_E_BADVARTYPE for a type unknown.
 HRESULT BorrowValue(const VARIANT& source, VARIANT& view) noexcept;
 
 }  // namespace praxen::detail

@@ -4,6 +4,7 @@
 #include <new>
 
 #include "praxen/automation/values.h"
+#include "praxen/automation/variants.h"
 #include "praxen/core/error.h"
 #include "praxen/describe/slots.h"
 
@@ -11,17 +12,12 @@ namespace praxen::describe {
 
 namespace {
 
-// The variant that holds the value or a reference to it, once a reference to a variant is followed.
-// It holds neither a null reference, a further reference to a variant, nor the mark of an argument
-// that is left out.
-const VARIANT& Resolve(const VARIANT& argument) {
-  const bool isIndirect = argument.vt == (VT_BYREF | VT_VARIANT) && argument.pvarVal != nullptr;
-  const VARIANT& value = isIndirect ? *argument.pvarVal : argument;
-  const bool isReference = (value.vt & VT_BYREF) != 0;
-  if (value.vt == (VT_BYREF | VT_VARIANT) || (isReference && value.byref == nullptr)) {
-    throw ArgumentError{DISP_E_TYPEMISMATCH, &argument};
-  }
-  if (value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND) {
+// The value of an argument, its references followed; an argument that is left out is marked by an
+// error.
+VariantValue ValueOfArgument(const VARIANT& argument) {
+  const VariantValue value = ValueOf(argument);
+  if (value.place == nullptr) throw ArgumentError{DISP_E_TYPEMISMATCH, &argument};
+  if (value.type == VT_ERROR && *static_cast<const SCODE*>(value.place) == DISP_E_PARAMNOTFOUND) {
     throw ArgumentError{DISP_E_PARAMNOTOPTIONAL, &argument};
   }
   return value;
@@ -29,14 +25,22 @@ const VARIANT& Resolve(const VARIANT& argument) {
 
 // The value as the platform converts it; whatever it cannot convert is of the wrong type.
 Variant Convert(const VARIANT& argument, VARTYPE type) {
+  ValueOfArgument(argument);
   Variant converted;
-  const HRESULT result = VariantChangeType(&converted, const_cast<VARIANT*>(&Resolve(argument)),
-                                           VARIANT_ALPHABOOL, type);
+  const HRESULT result =
+      VariantChangeType(&converted, const_cast<VARIANT*>(&argument), VARIANT_ALPHABOOL, type);
   if (result == E_OUTOFMEMORY) throw std::bad_alloc();
   if (FAILED(result)) {
     throw ArgumentError{result == DISP_E_OVERFLOW ? result : DISP_E_TYPEMISMATCH, &argument};
   }
   return converted;
+}
+
+// The text of an argument, copied once when it is one already.
+Text TextOfArgument(const VARIANT& argument) {
+  const VariantValue value = ValueOfArgument(argument);
+  if (value.type == VT_BSTR) return ViewOf(*static_cast<const BSTR*>(value.place));
+  return Convert(argument, VT_BSTR).View();
 }
 
 Text TextOf(Variant variant) {
@@ -45,19 +49,12 @@ Text TextOf(Variant variant) {
 }
 
 IUnknown* InterfaceOf(const VARIANT& argument) {
-  const VARIANT& value = Resolve(argument);
-  switch (value.vt) {
-    case VT_DISPATCH:
-    case VT_UNKNOWN:
-      return value.punkVal;
-    case VT_DISPATCH | VT_BYREF:
-    case VT_UNKNOWN | VT_BYREF:
-      return *value.ppunkVal;
-    case VT_NULL:
-      return nullptr;
-    default:
-      throw ArgumentError{DISP_E_TYPEMISMATCH, &argument};
+  const VariantValue value = ValueOfArgument(argument);
+  if (value.type == VT_NULL) return nullptr;
+  if (value.type != VT_DISPATCH && value.type != VT_UNKNOWN) {
+    throw ArgumentError{DISP_E_TYPEMISMATCH, &argument};
   }
+  return *static_cast<IUnknown* const*>(value.place);
 }
 
 }  // namespace
@@ -70,7 +67,7 @@ void TextToVariant(const void* value, tagVARIANT& variant) {
 }
 
 void TextFromVariant(void* value, const tagVARIANT& variant) {
-  *static_cast<Text*>(value) = Convert(variant, VT_BSTR).View();
+  *static_cast<Text*>(value) = TextOfArgument(variant);
 }
 
 void BooleanToVariant(const void* value, tagVARIANT& variant) {
@@ -101,7 +98,7 @@ void DoubleFromVariant(void* value, const tagVARIANT& variant) {
 }
 
 void AnyFromVariant(void* value, const tagVARIANT& variant) {
-  *static_cast<AnyValue*>(value) = Text(Convert(variant, VT_BSTR).View());
+  *static_cast<AnyValue*>(value) = TextOfArgument(variant);
 }
 
 Ref<Object> ObjectFromVariant(const tagVARIANT& variant, Ref<Object> (*adapt)(Interface*)) {

@@ -39,7 +39,7 @@ namespace praxen::describe {
 
 struct ClassDescription;
 
-/// The description of a class; instantiated once a class, in the source file of its family.
+/// The description of a class; instantiated once per class, in the source file of its family.
 template <class Class>
 const ClassDescription& Describe();
 
