@@ -47,9 +47,9 @@ std::function<XmlSchemaSource()> FindSchema() {
 }
 
 LoadedDocument::LoadedDocument(const Text& XMLStr) : text_(XMLStr), document_(ReaderDocument()) {
-  if (document_.loadXML(text_)) return;
+  if (document_.LoadXML(text_)) return;
   const XmlParseError error = document_.parseError();
-  document_.clear();
+  document_.Clear();
   throw InvalidXml(error.reason, error.place);
 }
 
@@ -60,7 +60,7 @@ LoadedDocument::LoadedDocument(const Text& XMLStr, std::u16string_view rootName)
 
 LoadedDocument::~LoadedDocument() {
   SharedTexts::Instance().Clear();
-  document_.clear();
+  document_.Clear();
 }
 
 bool LoadedDocument::IsRoot(std::u16string_view name) const {

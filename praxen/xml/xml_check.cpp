@@ -76,23 +76,23 @@ std::u16string OtherVersion(std::u16string_view version) {
 class NestingCheck {
  public:
   // The reason to refuse the piece, or an empty text.
-  std::u16string check(const XmlMarkup& markup) {
+  std::u16string Check(const XmlMarkup& markup) {
     switch (markup.kind) {
-      case XmlMarkupKind::kDoctype:
+      case XmlMarkupKind::Doctype:
         return u"DTD is prohibited.";
-      case XmlMarkupKind::kEndTag:
-        leave();
+      case XmlMarkupKind::EndTag:
+        Leave();
         return {};
-      case XmlMarkupKind::kStartTag:
-      case XmlMarkupKind::kEmptyTag:
-        return enter(markup);
+      case XmlMarkupKind::StartTag:
+      case XmlMarkupKind::EmptyTag:
+        return Enter(markup);
       default:
         return {};
     }
   }
 
  private:
-  std::u16string enter(const XmlMarkup& tag) {
+  std::u16string Enter(const XmlMarkup& tag) {
     if (tag.attributes > kMaxXmlAttributes) {
       return TooMany(u"Too many attributes on one element", kMaxXmlAttributes);
     }
@@ -108,11 +108,11 @@ class NestingCheck {
       return TooMany(u"Too many namespace declarations in scope", kMaxXmlNamespacesInScope);
     }
     namespaces_.push_back(tag.namespaces);
-    if (tag.kind == XmlMarkupKind::kEmptyTag) leave();
+    if (tag.kind == XmlMarkupKind::EmptyTag) Leave();
     return {};
   }
 
-  void leave() {
+  void Leave() {
     if (namespaces_.empty()) return;
     inScope_ -= namespaces_.back();
     namespaces_.pop_back();
@@ -151,14 +151,14 @@ std::optional<XmlParseError> CheckXmlText(std::u16string_view text) {
       return refuse(OtherVersion(version.value), version.offset);
     }
   }
-  for (XmlMarkupReader reader(text); reader.next();) {
+  for (XmlMarkupReader reader(text); reader.Next();) {
     const XmlMarkup& markup = reader.markup();
-    if (markup.kind != XmlMarkupKind::kText) blank = false;
-    if (markup.kind == XmlMarkupKind::kInstruction &&
+    if (markup.kind != XmlMarkupKind::Text) blank = false;
+    if (markup.kind == XmlMarkupKind::Instruction &&
         HasLongTarget(text.substr(markup.begin, markup.end - markup.begin))) {
       return refuse(TooLong(u"A name", kMaxXmlNameLength), markup.begin);
     }
-    std::u16string sentence = nesting.check(markup);
+    std::u16string sentence = nesting.Check(markup);
     if (!sentence.empty()) return refuse(std::move(sentence), markup.begin);
   }
   if (blank && IsXmlBlank(text)) {

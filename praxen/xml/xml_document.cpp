@@ -6,11 +6,12 @@
 #include <utility>
 
 #include "praxen/xml/xml_check.h"
+#include "praxen/xml/xml_engine.h"
 
 namespace praxen::detail {
 namespace {
 
-// Searches from the cursor on and leaves it behind what is found.
+// Searches from the cursor on and leaves it after what is found.
 template <class Matches>
 const XmlAttribute* Search(std::span<const XmlAttribute> attributes, uint32_t& cursor,
                            Matches matches) {
@@ -60,8 +61,8 @@ std::span<const XmlAttribute> XmlNode::attributes() const {
   return tree_ == nullptr ? std::span<const XmlAttribute>() : tree_->attributes(node_);
 }
 
-std::u16string XmlNode::xml() const {
-  return tree_ == nullptr ? std::u16string() : tree_->markup(node_);
+std::u16string XmlNode::Markup() const {
+  return tree_ == nullptr ? std::u16string() : tree_->Markup(node_);
 }
 
 Place XmlNode::place() const { return tree_ == nullptr ? Place() : tree_->place(node_); }
@@ -70,12 +71,12 @@ XmlDocument::XmlDocument(std::function<XmlSchemaSource()> schema) : schema_(std:
 
 XmlDocument::~XmlDocument() = default;
 
-bool XmlDocument::loadXML(std::u16string_view text) {
-  clear();
+bool XmlDocument::LoadXML(std::u16string_view text) {
+  Clear();
   error_ = {};
   constexpr char16_t kByteOrderMark = 0xFEFF;
   if (text.starts_with(kByteOrderMark)) text.remove_prefix(1);
-  if (!prepareEngine()) return false;
+  if (!PrepareEngine()) return false;
   if (std::optional<XmlParseError> fault = CheckXmlText(text)) {
     error_ = *std::move(fault);
     return false;
@@ -83,12 +84,12 @@ bool XmlDocument::loadXML(std::u16string_view text) {
   // Whatever the load ends with, nothing is left of a document that was not read to its end.
   struct Unfinished {
     ~Unfinished() {
-      if (document != nullptr) document->clear();
+      if (document != nullptr) document->Clear();
     }
     XmlDocument* document;
   } unfinished{this};
-  tree_->clear(text);
-  XmlLoadResult result = engine_->load(text, *tree_);
+  tree_->Clear(text);
+  XmlLoadResult result = engine_->Load(text, *tree_);
   error_ = std::move(result.error);
   if (!error_.reason.empty()) return false;
   rootDeclared_ = result.rootDeclared;
@@ -100,18 +101,18 @@ XmlNode XmlDocument::documentElement() const {
   return tree_ == nullptr || tree_->size() == 0 ? XmlNode() : XmlNode(tree_.get(), 0);
 }
 
-void XmlDocument::clear() {
-  if (tree_ != nullptr) tree_->clear();
+void XmlDocument::Clear() {
+  if (tree_ != nullptr) tree_->Clear();
   rootDeclared_ = false;
 }
 
-bool XmlDocument::prepareEngine() {
+bool XmlDocument::PrepareEngine() {
   if (engine_ != nullptr && !engine_->retired()) return true;
   const XmlSchemaSource schema = schema_();
   tree_ = std::make_unique<XmlTree>(schema.targetNamespace);
   // A retired engine goes when the new one stands: what all engines share cannot be made anew when
   // memory is short.
-  auto engine = std::make_unique<XmlEngine>(schema);
+  std::unique_ptr<XmlEngine> engine = XmlEngine::Make(schema);
   error_ = engine->schemaError();
   if (!error_.reason.empty()) return false;
   engine_ = std::move(engine);

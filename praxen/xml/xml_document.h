@@ -10,12 +10,14 @@
 #include <string>
 #include <string_view>
 
-#include "praxen/xml/xml_engine.h"
 #include "praxen/xml/xml_error.h"
 #include "praxen/xml/xml_name.h"
+#include "praxen/xml/xml_schema_source.h"
 #include "praxen/xml/xml_tree.h"
 
 namespace praxen::detail {
+
+class XmlEngine;
 
 /// A node of a document, or an absent one: what is asked of an absent node is absent or empty. A
 /// light value, valid until its document loads again or is destroyed.
@@ -48,16 +50,16 @@ class XmlNode {
   /// First those that the text gives, namespace declarations included, then the schema's defaults.
   std::span<const XmlAttribute> attributes() const;
 
-  /// The node as markup that stands by itself; see `XmlTree::markup`. The first call on a document
+  /// The node as markup that stands by itself; see `XmlTree::Markup`. The first call on a document
   /// walks its source once.
-  std::u16string xml() const;
+  std::u16string Markup() const;
   /// Where the node begins in the source. Every call walks the source up to there.
   Place place() const;
 
  private:
   const XmlTree* tree_ = nullptr;
   uint32_t node_ = 0;
-  // Where the next attribute is looked for first.
+  /// Where the next attribute is looked for first.
   mutable uint32_t cursor_ = 0;
 };
 
@@ -73,7 +75,7 @@ class XmlNode {
 class XmlDocument {
  public:
   /// `schema` is called when the first text is loaded, and again by later loads while the schema
-  /// could not be used. What it throws leaves `loadXML`.
+  /// could not be used. What it throws leaves `LoadXML`.
   explicit XmlDocument(std::function<XmlSchemaSource()> schema);
   XmlDocument(const XmlDocument&) = delete;
   XmlDocument& operator=(const XmlDocument&) = delete;
@@ -82,7 +84,7 @@ class XmlDocument {
   /// Replaces the document; false when the text or the schema is at fault. The characters of `text`
   /// have to stay alive as long as nodes are used. A leading byte-order mark is passed over and not
   /// counted in positions.
-  bool loadXML(std::u16string_view text);
+  bool LoadXML(std::u16string_view text);
   /// Why the last load failed.
   const XmlParseError& parseError() const { return error_; }
   /// Whether the schema declares the root element in its namespace. One that it does not declare is
@@ -91,13 +93,13 @@ class XmlDocument {
   /// The root element; absent when nothing is loaded.
   XmlNode documentElement() const;
   /// Gives up the nodes and the memory they take.
-  void clear();
+  void Clear();
 
  private:
-  bool prepareEngine();
+  bool PrepareEngine();
 
   const std::function<XmlSchemaSource()> schema_;
-  // The engine keeps the names that the tree's nodes have.
+  /// The engine keeps the names that the tree's nodes have.
   std::unique_ptr<XmlEngine> engine_;
   std::unique_ptr<XmlTree> tree_;
   XmlParseError error_;

@@ -1,24 +1,25 @@
-// The validating parser behind a document; nothing of it shows here.
+// The validating parser of a document, which is that of Xerces.
 #ifndef PRAXEN_XML_XML_ENGINE_H_
 #define PRAXEN_XML_XML_ENGINE_H_
 
+#include <cstddef>
 #include <memory>
-#include <string>
+#include <optional>
 #include <string_view>
+#include <xercesc/framework/XMLEntityHandler.hpp>
+#include <xercesc/framework/XMLGrammarPoolImpl.hpp>
+#include <xercesc/internal/SGXMLScanner.hpp>
+#include <xercesc/validators/common/GrammarResolver.hpp>
 
+#include "praxen/xml/xerces_use.h"
 #include "praxen/xml/xml_error.h"
+#include "praxen/xml/xml_memory.h"
+#include "praxen/xml/xml_reporter.h"
+#include "praxen/xml/xml_schema_source.h"
 #include "praxen/xml/xml_tree.h"
+#include "praxen/xml/xml_tree_builder.h"
 
 namespace praxen::detail {
-
-/// An XML Schema.
-struct XmlSchemaSource {
-  std::u16string targetNamespace;
-  /// The bytes of the schema document. Nothing that it includes or imports is looked for.
-  std::string content;
-  /// What errors call the schema document.
-  std::string systemId;
-};
 
 /// How a load ended.
 struct XmlLoadResult {
@@ -27,25 +28,54 @@ struct XmlLoadResult {
   bool rootDeclared = false;
 };
 
+/// Keeps the parser from opening files and connections: schemas are not found, entities are empty.
+class NoEntities final : public xercesc::XMLEntityHandler {
+ public:
+  xercesc::InputSource* resolveEntity(xercesc::XMLResourceIdentifier* resource) override;
+  bool expandSystemId(const XMLCh*, xercesc::XMLBuffer&) override { return false; }
+  void endInputSource(const xercesc::InputSource&) override {}
+  void startInputSource(const xercesc::InputSource&) override {}
+  void resetEntities() override {}
+};
+
 /// A parser with a compiled schema, for one load after the other.
 class XmlEngine {
  public:
   /// Compiles the schema. Where `schemaError` gives a reason afterwards, nothing can be loaded.
-  /// Here as in `load`, want of memory raises std::bad_alloc.
-  explicit XmlEngine(const XmlSchemaSource& schema);
+  /// Here as in `Load`, std::bad_alloc is raised when memory runs out.
+  static std::unique_ptr<XmlEngine> Make(const XmlSchemaSource& schema);
+  XmlEngine(const XmlEngine&) = delete;
+  XmlEngine& operator=(const XmlEngine&) = delete;
   ~XmlEngine();
 
-  const XmlParseError& schemaError() const;
+  const XmlParseError& schemaError() const { return schemaError_; }
   /// Adds the nodes of a checked text to an empty tree. The names of the nodes are valid until the
   /// next load.
-  XmlLoadResult load(std::u16string_view text, XmlTree& tree);
+  XmlLoadResult Load(std::u16string_view text, XmlTree& tree);
   /// Whether the engine has to make room for a new one, having grown or not finished a load.
-  bool retired() const;
+  bool retired() const { return retired_; }
 
  private:
-  class Parser;
+  explicit XmlEngine(const XmlSchemaSource& schema);
 
-  std::unique_ptr<Parser> parser_;
+  void Compile(const XmlSchemaSource& schema);
+  void Parse(std::u16string_view text, XmlTree& tree);
+  void CheckNames();
+  size_t CountNamespaces() const { return grammars_->getStringPool()->getStringCount(); }
+
+  /// Held while the members are destroyed.
+  std::optional<XmlMemory::Release> release_;
+  /// Everything else needs Xerces up to its end.
+  const XercesUse xerces_;
+  NoEntities entities_;
+  XmlReporter reporter_;
+  XmlTreeBuilder builder_;
+  xercesc::XMLGrammarPoolImpl pool_{&XmlMemory::Instance()};
+  std::unique_ptr<xercesc::GrammarResolver> grammars_;
+  std::unique_ptr<xercesc::SGXMLScanner> scanner_;
+  XmlParseError schemaError_;
+  size_t ownNamespaces_ = 0;
+  bool retired_ = false;
 };
 
 }  // namespace praxen::detail

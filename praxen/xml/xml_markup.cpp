@@ -45,7 +45,7 @@ bool DeclaresXmlNamespace(std::u16string_view attributeName) {
                                                      attributeName[kDeclaration.size()] == u':');
 }
 
-bool XmlMarkupReader::next() {
+bool XmlMarkupReader::Next() {
   const size_t begin = markup_.end;
   if (begin == text_.size()) return false;
   markup_ = {};
@@ -56,40 +56,40 @@ bool XmlMarkupReader::next() {
   }
   switch (begin + 1 < text_.size() ? text_[begin + 1] : u'\0') {
     case u'/':
-      markup_.kind = XmlMarkupKind::kEndTag;
-      endBehind(u">", begin);
+      markup_.kind = XmlMarkupKind::EndTag;
+      EndAfter(u">", begin);
       break;
     case u'?':
-      markup_.kind = XmlMarkupKind::kInstruction;
-      endBehind(u"?>", begin + 2);
+      markup_.kind = XmlMarkupKind::Instruction;
+      EndAfter(u"?>", begin + 2);
       break;
     case u'!':
-      readDeclaration();
+      ReadDeclaration();
       break;
     default:
-      readTag();
+      ReadTag();
   }
   return true;
 }
 
-void XmlMarkupReader::readDeclaration() {
+void XmlMarkupReader::ReadDeclaration() {
   constexpr std::u16string_view kCData = u"<![CDATA[";
   constexpr std::u16string_view kComment = u"<!--";
   const std::u16string_view rest = text_.substr(markup_.begin);
   if (rest.starts_with(kComment)) {
-    markup_.kind = XmlMarkupKind::kComment;
-    endBehind(u"-->", markup_.begin + kComment.size());
+    markup_.kind = XmlMarkupKind::Comment;
+    EndAfter(u"-->", markup_.begin + kComment.size());
   } else if (rest.starts_with(kCData)) {
-    markup_.kind = XmlMarkupKind::kCData;
-    endBehind(u"]]>", markup_.begin + kCData.size());
+    markup_.kind = XmlMarkupKind::CData;
+    EndAfter(u"]]>", markup_.begin + kCData.size());
   } else {
-    markup_.kind = XmlMarkupKind::kDoctype;
-    endBehind(u">", markup_.begin);
+    markup_.kind = XmlMarkupKind::Doctype;
+    EndAfter(u">", markup_.begin);
   }
 }
 
-void XmlMarkupReader::readTag() {
-  markup_.kind = XmlMarkupKind::kStartTag;
+void XmlMarkupReader::ReadTag() {
+  markup_.kind = XmlMarkupKind::StartTag;
   size_t nameBegin = markup_.begin + 1;
   size_t at = nameBegin;
   const auto endName = [&] {
@@ -105,7 +105,7 @@ void XmlMarkupReader::readTag() {
     if (!EndsName(c)) continue;
     endName();
     if (c == u'>') {
-      if (text_[at - 1] == u'/') markup_.kind = XmlMarkupKind::kEmptyTag;
+      if (text_[at - 1] == u'/') markup_.kind = XmlMarkupKind::EmptyTag;
       markup_.end = at + 1;
       return;
     }
@@ -124,7 +124,7 @@ void XmlMarkupReader::readTag() {
   markup_.closed = at < text_.size();
 }
 
-void XmlMarkupReader::endBehind(std::u16string_view mark, size_t from) {
+void XmlMarkupReader::EndAfter(std::u16string_view mark, size_t from) {
   for (from = std::min(from, text_.size());; ++from) {
     from = Find(text_, mark[0], from);
     if (from == text_.size()) break;

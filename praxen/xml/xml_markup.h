@@ -10,20 +10,20 @@ namespace praxen::detail {
 
 /// What a piece of a document is.
 enum class XmlMarkupKind : uint8_t {
-  kText,
-  kStartTag,
-  kEmptyTag,
-  kEndTag,
-  kComment,
-  kInstruction,
-  kCData,
-  kDoctype
+  Text,
+  StartTag,
+  EmptyTag,
+  EndTag,
+  Comment,
+  Instruction,
+  CData,
+  Doctype
 };
 
-/// One piece of a document, from its first character to behind its last. Of malformed text the
-/// pieces are unspecified, but they follow each other without gaps and none is empty.
+/// One piece of a document, from its first character to the one after its last. Of malformed text
+/// the pieces are unspecified, but they follow each other without gaps and none is empty.
 struct XmlMarkup {
-  XmlMarkupKind kind = XmlMarkupKind::kText;
+  XmlMarkupKind kind = XmlMarkupKind::Text;
   size_t begin = 0;
   size_t end = 0;
   /// False when the text ends before the piece does.
@@ -37,7 +37,7 @@ struct XmlMarkup {
   size_t longestValue = 0;
 
   bool startsElement() const {
-    return kind == XmlMarkupKind::kStartTag || kind == XmlMarkupKind::kEmptyTag;
+    return kind == XmlMarkupKind::StartTag || kind == XmlMarkupKind::EmptyTag;
   }
 };
 
@@ -47,14 +47,14 @@ class XmlMarkupReader {
   explicit XmlMarkupReader(std::u16string_view text) : text_(text) {}
 
   /// Moves to the next piece; false at the end of the text.
-  bool next();
+  bool Next();
   const XmlMarkup& markup() const { return markup_; }
 
  private:
-  void readDeclaration();
-  void readTag();
-  // Ends the piece behind the next occurrence of `mark` at or after `from`.
-  void endBehind(std::u16string_view mark, size_t from);
+  void ReadDeclaration();
+  void ReadTag();
+  /// Ends the piece after the next occurrence of `mark` at or after `from`.
+  void EndAfter(std::u16string_view mark, size_t from);
 
   const std::u16string_view text_;
   XmlMarkup markup_;

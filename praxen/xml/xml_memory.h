@@ -12,7 +12,8 @@ namespace praxen::detail {
 
 /// Gives Xerces the memory of grammars and scanners, with a reserve: destructors of Xerces
 /// ask for memory, too, and an exception that leaves one would end the process. Small requests are
-/// therefore met from the reserve first, and the want of memory is reported by `RequireNoShortage`.
+/// therefore met from the reserve first, and that memory ran out is reported by
+/// `RequireNoShortage`.
 class XmlMemory final : public xercesc::MemoryManager {
  public:
   /// While one lives on any thread, the reserve may be used to its end.
@@ -44,9 +45,9 @@ class XmlMemory final : public xercesc::MemoryManager {
   void deallocate(void* memory) override;
 
  private:
-  // Enough for all small requests of a schema. What is not used costs no memory.
+  /// Enough for all small requests of a schema. What is not used costs no memory.
   static constexpr size_t kReserve = size_t{4} << 20;
-  // What is kept for destructors, and the largest request that may be one of a destructor.
+  /// What is kept for destructors, and the largest request that may be one of a destructor.
   static constexpr size_t kLastReserve = size_t{1} << 20;
   static constexpr size_t kSmallRequest = 256;
 
@@ -58,8 +59,8 @@ class XmlMemory final : public xercesc::MemoryManager {
   bool IsReserve(const void* memory) const;
 
   std::mutex mutex_;
-  // The memory of the reader that was given out last, and of one that is back: every document takes
-  // one, and it is too large for the allocator to have at hand.
+  /// The memory of the reader that was given out last, and of one that is back: every document
+  /// takes one, and it is too large for the allocator to have at hand.
   std::atomic<void*> reader_ = nullptr;
   std::atomic<void*> spareReader_ = nullptr;
   int releases_ = 0;

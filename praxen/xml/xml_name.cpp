@@ -9,12 +9,12 @@ namespace {
 class NameTable {
  public:
   // The table outlives every static object that may still hold a name.
-  static NameTable& shared() {
+  static NameTable& Shared() {
     static NameTable& table = *new NameTable;
     return table;
   }
 
-  XmlName acquire(std::u16string_view name) {
+  XmlName Acquire(std::u16string_view name) {
     const std::lock_guard lock(mutex_);
     auto entry = users_.find(name);
     if (entry == users_.end()) entry = users_.emplace(name, 0).first;
@@ -22,7 +22,7 @@ class NameTable {
     return &entry->first;
   }
 
-  void release(XmlName name) {
+  void Release(XmlName name) {
     const std::lock_guard lock(mutex_);
     const auto entry = users_.find(*name);
     if (--entry->second == 0) users_.erase(entry);
@@ -35,18 +35,18 @@ class NameTable {
 
 }  // namespace
 
-XmlName InternXmlName(std::u16string_view name) { return NameTable::shared().acquire(name); }
+XmlName InternXmlName(std::u16string_view name) { return NameTable::Shared().Acquire(name); }
 
-XmlName XmlNameUser::intern(std::u16string_view name) {
+XmlName XmlNameUser::Intern(std::u16string_view name) {
   const auto known = names_.find(name);
   if (known != names_.end()) return known->second;
-  const XmlName acquired = NameTable::shared().acquire(name);
+  const XmlName acquired = NameTable::Shared().Acquire(name);
   names_.emplace(*acquired, acquired);
   return acquired;
 }
 
-void XmlNameUser::clear() {
-  for (const auto& [text, name] : names_) NameTable::shared().release(name);
+void XmlNameUser::Clear() {
+  for (const auto& [text, name] : names_) NameTable::Shared().Release(name);
   names_.clear();
 }
 

@@ -24,15 +24,15 @@ class XmlNameUser {
   XmlNameUser() = default;
   XmlNameUser(const XmlNameUser&) = delete;
   XmlNameUser& operator=(const XmlNameUser&) = delete;
-  ~XmlNameUser() { clear(); }
+  ~XmlNameUser() { Clear(); }
 
-  /// The name, valid until `clear`.
-  XmlName intern(std::u16string_view name);
+  /// The name, valid until `Clear`.
+  XmlName Intern(std::u16string_view name);
   size_t size() const { return names_.size(); }
-  void clear();
+  void Clear();
 
  private:
-  // Ordered, so that no choice of names makes looking up slow.
+  /// Ordered, so that no choice of names makes looking up slow.
   std::map<std::u16string_view, XmlName> names_;
 };
 

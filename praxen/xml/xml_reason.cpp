@@ -18,10 +18,10 @@ using xercesc::XMLValid;
 
 // Where a reason points to.
 enum class Target : uint8_t {
-  kParser,     // Where the parser was.
-  kPiece,      // The piece of markup or text that it was in.
-  kAttribute,  // The attribute in that piece that the complaint names.
-  kReference   // The character reference that it read.
+  Parser,     // Where the parser was.
+  Piece,      // The piece of markup or text that it was in.
+  Attribute,  // The attribute in that piece that the complaint names.
+  Reference   // The character reference that it read.
 };
 
 // How a complaint of the parser is put. In the wording {0} and {1} are what the complaint quotes,
@@ -35,48 +35,48 @@ struct Wording {
 };
 
 constexpr auto kWordings = std::to_array<Wording>({
-    {XmlRuleList::kSchema, XMLValid::ElementNotDefined, Target::kPiece,
+    {XmlRuleList::Schema, XMLValid::ElementNotDefined, Target::Piece,
      u"Element '{0}' is not declared by the schema."},
-    {XmlRuleList::kSchema, XMLValid::RequiredAttrNotProvided, Target::kPiece,
+    {XmlRuleList::Schema, XMLValid::RequiredAttrNotProvided, Target::Piece,
      u"Element '{element}' lacks the required attribute '{0}'."},
-    {XmlRuleList::kSchema, XMLValid::AttNotDefinedForElement, Target::kAttribute,
+    {XmlRuleList::Schema, XMLValid::AttNotDefinedForElement, Target::Attribute,
      u"Attribute '{0}' is not declared for element '{element}'."},
-    {XmlRuleList::kSchema, XMLValid::AttributeNotUnQualified, Target::kPiece,
+    {XmlRuleList::Schema, XMLValid::AttributeNotUnQualified, Target::Piece,
      u"Attribute '{0}' of element '{element}' must have no prefix."},
-    {XmlRuleList::kSchema, XMLValid::AttributeNotQualified, Target::kAttribute,
+    {XmlRuleList::Schema, XMLValid::AttributeNotQualified, Target::Attribute,
      u"Attribute '{0}' of element '{element}' must have a prefix."},
-    {XmlRuleList::kSchema, XMLValid::NoCharDataInCM, Target::kPiece,
+    {XmlRuleList::Schema, XMLValid::NoCharDataInCM, Target::Piece,
      u"Text is not allowed in element '{element}'; only elements are expected."},
-    {XmlRuleList::kSchema, XMLValid::ElementNotValidForContent, Target::kPiece,
+    {XmlRuleList::Schema, XMLValid::ElementNotValidForContent, Target::Piece,
      u"Element '{0}' is not allowed here in element '{element}'; expected {1}."},
-    {XmlRuleList::kSchema, XMLValid::NotEnoughElemsForCM, Target::kPiece,
+    {XmlRuleList::Schema, XMLValid::NotEnoughElemsForCM, Target::Piece,
      u"Element '{element}' is not complete; expected {0}."},
-    {XmlRuleList::kSchema, XMLValid::EmptyNotValidForContent, Target::kPiece,
+    {XmlRuleList::Schema, XMLValid::EmptyNotValidForContent, Target::Piece,
      u"Element '{element}' must not be empty; expected {0}."},
-    {XmlRuleList::kXml, XMLErrs::ExpectedEndOfTagX, Target::kPiece,
+    {XmlRuleList::Xml, XMLErrs::ExpectedEndOfTagX, Target::Piece,
      u"End tag '</{tag}>' does not match; expected '</{0}>'."},
-    {XmlRuleList::kXml, XMLErrs::EndedWithTagsOnStack, Target::kParser,
+    {XmlRuleList::Xml, XMLErrs::EndedWithTagsOnStack, Target::Parser,
      u"The text ends inside element '{0}'; expected '</{0}>'."},
-    {XmlRuleList::kXml, XMLErrs::ExpectedCommentOrPI, Target::kParser,
+    {XmlRuleList::Xml, XMLErrs::ExpectedCommentOrPI, Target::Parser,
      u"Only one root element is allowed; expected the end of the text, a comment or a processing "
      u"instruction."},
-    {XmlRuleList::kXml, XMLErrs::InvalidDocumentStructure, Target::kParser,
+    {XmlRuleList::Xml, XMLErrs::InvalidDocumentStructure, Target::Parser,
      u"There is no root element; expected one here."},
-    {XmlRuleList::kXml, XMLErrs::MoreEndThanStartTags, Target::kPiece,
+    {XmlRuleList::Xml, XMLErrs::MoreEndThanStartTags, Target::Piece,
      u"End tag '</{tag}>' has no start tag."},
-    {XmlRuleList::kXml, XMLErrs::AttrAlreadyUsedInSTag, Target::kAttribute,
+    {XmlRuleList::Xml, XMLErrs::AttrAlreadyUsedInSTag, Target::Attribute,
      u"Attribute '{0}' is given twice in element '{element}'."},
-    {XmlRuleList::kXml, XMLErrs::BracketInAttrValue, Target::kAttribute,
+    {XmlRuleList::Xml, XMLErrs::BracketInAttrValue, Target::Attribute,
      u"Character '<' is not allowed in the value of attribute '{1}'; expected '&lt;'."},
-    {XmlRuleList::kXml, XMLErrs::ExpectedEqSign, Target::kParser,
+    {XmlRuleList::Xml, XMLErrs::ExpectedEqSign, Target::Parser,
      u"An attribute of element '{element}' has no value; expected '='."},
-    {XmlRuleList::kXml, XMLErrs::ExpectedAttrValue, Target::kParser,
+    {XmlRuleList::Xml, XMLErrs::ExpectedAttrValue, Target::Parser,
      u"An attribute value of element '{element}' is not quoted; expected '\"' or \"'\"."},
-    {XmlRuleList::kXml, XMLErrs::InvalidCharacterRef, Target::kReference,
+    {XmlRuleList::Xml, XMLErrs::InvalidCharacterRef, Target::Reference,
      u"Reference '{reference}' is to {character}, which is not allowed in XML."},
-    {XmlRuleList::kXml, XMLErrs::EntityNotFound, Target::kReference,
+    {XmlRuleList::Xml, XMLErrs::EntityNotFound, Target::Reference,
      u"Entity '{0}' is not defined; expected 'amp', 'lt', 'gt', 'apos' or 'quot'."},
-    {XmlRuleList::kXml, XMLErrs::UnknownPrefix, Target::kPiece,
+    {XmlRuleList::Xml, XMLErrs::UnknownPrefix, Target::Piece,
      u"Prefix '{0}' is not declared; expected an attribute 'xmlns:{0}'."},
 });
 
@@ -122,36 +122,36 @@ class Explanation {
         complaint_(complaint),
         parserOffset_(OffsetAt(text, complaint.place)),
         quoted_(QuotedParts(complaint.text)) {
-    findPiece(progress.startedElements);
+    FindPiece(progress.startedElements);
     element_ = isStarting_ ? XmlTagName(piece()) : progress.openElement;
   }
 
-  XmlParseError make() const {
+  XmlParseError Make() const {
     if (complaint_.isFatal && parserOffset_ == text_.size() && !piece_.closed) {
-      return at(piece_.begin, unclosed());
+      return ErrorAt(piece_.begin, Unclosed());
     }
     const Wording* const wording = FindWording(complaint_);
     if (wording != nullptr && wording->code == XMLValid::ElementNotValidForContent &&
-        piece_.kind == XmlMarkupKind::kEmptyTag && !quoted_.empty()) {
-      return at(piece_.begin, u"Element '" + Shortened(element_) +
-                                  u"' must not be empty; expected " + Shortened(quoted_.back()) +
-                                  u".");
+        piece_.kind == XmlMarkupKind::EmptyTag && !quoted_.empty()) {
+      return ErrorAt(piece_.begin, u"Element '" + Shortened(element_) +
+                                       u"' must not be empty; expected " +
+                                       Shortened(quoted_.back()) + u".");
     }
-    if (wording != nullptr) return at(offsetOf(wording->target), filled(*wording));
-    if (!complaint_.isFatal) return invalid();
+    if (wording != nullptr) return ErrorAt(OffsetOf(wording->target), Filled(*wording));
+    if (!complaint_.isFatal) return Invalid();
     const bool namesElement = std::find(quoted_.begin(), quoted_.end(), element_) != quoted_.end();
     if (!isStarting_ || element_.empty() || namesElement) {
-      return at(parserOffset_, AsSentence(complaint_.text));
+      return ErrorAt(parserOffset_, AsSentence(complaint_.text));
     }
-    return at(parserOffset_, AsSentence(complaint_.text + u" in the start tag of element '" +
-                                        Shortened(element_) + u"'"));
+    return ErrorAt(parserOffset_, AsSentence(complaint_.text + u" in the start tag of element '" +
+                                             Shortened(element_) + u"'"));
   }
 
  private:
   // Takes the last piece that begins before the parser's place.
-  void findPiece(size_t startedElements) {
+  void FindPiece(size_t startedElements) {
     size_t started = 0;
-    for (XmlMarkupReader reader(text_); reader.next() && reader.markup().begin < parserOffset_;) {
+    for (XmlMarkupReader reader(text_); reader.Next() && reader.markup().begin < parserOffset_;) {
       piece_ = reader.markup();
       if (piece_.startsElement()) ++started;
     }
@@ -162,60 +162,60 @@ class Explanation {
     return text_.substr(piece_.begin, piece_.end - piece_.begin);
   }
 
-  XmlParseError at(size_t offset, std::u16string sentence) const {
+  XmlParseError ErrorAt(size_t offset, std::u16string sentence) const {
     return MakeXmlError(std::move(sentence), PlaceAt(text_, offset));
   }
 
   std::u16string_view mark() const {
     switch (piece_.kind) {
-      case XmlMarkupKind::kComment:
+      case XmlMarkupKind::Comment:
         return u"-->";
-      case XmlMarkupKind::kCData:
+      case XmlMarkupKind::CData:
         return u"]]>";
-      case XmlMarkupKind::kInstruction:
+      case XmlMarkupKind::Instruction:
         return u"?>";
       default:
         return u">";
     }
   }
 
-  std::u16string unclosed() const {
+  std::u16string Unclosed() const {
     return u"The text ends inside the markup that begins here; expected '" +
            std::u16string(mark()) + u"'.";
   }
 
-  size_t offsetOf(Target target) const {
+  size_t OffsetOf(Target target) const {
     switch (target) {
-      case Target::kPiece:
-        return pieceStart();
-      case Target::kAttribute:
-        return piece_.begin + namedAttribute();
-      case Target::kReference:
-        return referenceStart();
+      case Target::Piece:
+        return PieceStart();
+      case Target::Attribute:
+        return piece_.begin + NamedAttribute();
+      case Target::Reference:
+        return ReferenceStart();
       default:
         return parserOffset_;
     }
   }
 
   // Text begins for the reader with its first character that is not a blank.
-  size_t pieceStart() const {
+  size_t PieceStart() const {
     size_t start = piece_.begin;
-    if (piece_.kind != XmlMarkupKind::kText) return start;
+    if (piece_.kind != XmlMarkupKind::Text) return start;
     while (start + 1 < piece_.end && IsXmlBlank(text_[start])) ++start;
     return start;
   }
 
-  size_t referenceStart() const {
+  size_t ReferenceStart() const {
     const size_t found = text_.substr(0, parserOffset_).rfind(u'&');
     return found == std::u16string_view::npos ? parserOffset_ : found;
   }
 
   // The offset in the piece of the attribute that the complaint names, of two such the second; 0
   // when it names none.
-  size_t namedAttribute() const {
+  size_t NamedAttribute() const {
     for (const std::u16string_view name : quoted_) {
       size_t offset = 0;
-      forEachAttribute([&](const XmlRawAttribute& attribute) {
+      ForEachAttribute([&](const XmlRawAttribute& attribute) {
         if (attribute.name == name) offset = attribute.offset;
       });
       if (offset != 0) return offset;
@@ -224,7 +224,7 @@ class Explanation {
   }
 
   template <class Visit>
-  void forEachAttribute(Visit visit) const {
+  void ForEachAttribute(Visit visit) const {
     const std::u16string_view tag = piece();
     if (!piece_.startsElement()) return;
     for (XmlRawAttribute attribute = NextXmlAttribute(tag, 1 + XmlTagName(tag).size());
@@ -235,34 +235,34 @@ class Explanation {
     }
   }
 
-  std::u16string filled(const Wording& wording) const {
+  std::u16string Filled(const Wording& wording) const {
     std::u16string out;
     for (std::u16string_view rest = wording.sentence; !rest.empty();) {
       const size_t open = rest.find(u'{');
       out.append(rest.substr(0, open));
       if (open == std::u16string_view::npos) break;
       const size_t close = rest.find(u'}', open);
-      out += Shortened(argument(rest.substr(open + 1, close - open - 1)));
+      out += Shortened(Argument(rest.substr(open + 1, close - open - 1)));
       rest.remove_prefix(close + 1);
     }
     return out;
   }
 
-  std::u16string argument(std::u16string_view name) const {
+  std::u16string Argument(std::u16string_view name) const {
     if (name == u"element") return std::u16string(element_);
     if (name == u"tag") return std::u16string(XmlTagName(piece()));
     if (name == u"reference") return std::u16string(reference());
-    if (name == u"character") return referredCharacter();
+    if (name == u"character") return ReferredCharacter();
     const auto index = static_cast<size_t>(name.front() - u'0');
     return index < quoted_.size() ? std::u16string(quoted_[index]) : std::u16string();
   }
 
   std::u16string_view reference() const {
-    const std::u16string_view rest = text_.substr(referenceStart());
+    const std::u16string_view rest = text_.substr(ReferenceStart());
     return rest.substr(0, std::min(rest.find(u';'), rest.size() - 1) + 1);
   }
 
-  std::u16string referredCharacter() const {
+  std::u16string ReferredCharacter() const {
     const bool isHex = reference().starts_with(u"&#x");
     uint32_t character = 0;
     for (const char16_t c : reference().substr(isHex ? 3 : 2)) {
@@ -276,14 +276,14 @@ class Explanation {
 
   // The parser does not say which attribute has a value that its type does not allow: it is the
   // one with the value that the complaint quotes, if there is one such only.
-  XmlParseError invalid() const {
+  XmlParseError Invalid() const {
     std::u16string subject = isStarting_ ? u"Element '" : u"Content of element '";
     subject += Shortened(element_) + u"'";
-    size_t offset = pieceStart();
+    size_t offset = PieceStart();
     size_t matching = 0;
     if (isStarting_ && !quoted_.empty()) {
       XmlRawAttribute found;
-      forEachAttribute([&](const XmlRawAttribute& attribute) {
+      ForEachAttribute([&](const XmlRawAttribute& attribute) {
         if (attribute.value != quoted_.front()) return;
         found = attribute;
         ++matching;
@@ -294,7 +294,7 @@ class Explanation {
         offset = piece_.begin + found.offset;
       }
     }
-    return at(offset, AsSentence(subject + u" is not valid: " + complaint_.text));
+    return ErrorAt(offset, AsSentence(subject + u" is not valid: " + complaint_.text));
   }
 
   const std::u16string_view text_;
@@ -312,7 +312,7 @@ class Explanation {
 XmlParseError ExplainXmlComplaint(std::u16string_view text, const XmlComplaint& complaint,
                                   const XmlProgress& progress) {
   if (complaint.place.line == 0) return MakeXmlError(AsSentence(complaint.text), {});
-  return Explanation(text, complaint, progress).make();
+  return Explanation(text, complaint, progress).Make();
 }
 
 XmlParseError ExplainSchemaComplaint(std::u16string_view systemId, const XmlComplaint& complaint) {

@@ -12,16 +12,16 @@
 namespace praxen::detail {
 
 /// The list of the parser's to which the code of a complaint belongs.
-enum class XmlRuleList : uint8_t { kXml, kSchema, kOther };
+enum class XmlRuleList : uint8_t { Xml, Schema, Other };
 
 /// A complaint of the parser.
 struct XmlComplaint {
-  XmlRuleList list = XmlRuleList::kOther;
+  XmlRuleList list = XmlRuleList::Other;
   unsigned int code = 0;
   /// Whether the text is not even well-formed.
   bool isFatal = false;
   std::u16string text;
-  /// Where the parser was, which is behind what it complains about.
+  /// Where the parser was, which is after what it complains about.
   Place place;
 };
 

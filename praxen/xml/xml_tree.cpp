@@ -20,26 +20,26 @@ XmlName CommentName() {
 
 XmlTree::XmlTree(std::u16string targetNamespace) : targetNamespace_(std::move(targetNamespace)) {}
 
-void XmlTree::clear(std::u16string_view source) {
+void XmlTree::Clear(std::u16string_view source) {
   constexpr size_t kKeptCharacters = 1U << 16;
   source_ = source;
   if (blocks_.size() > 1) blocks_.resize(1);
   size_ = 0;
-  attributes_.clear();
-  characters_.clear();
+  attributes_.Clear();
+  characters_.Clear();
   open_.clear();
   text_.clear();
   if (text_.capacity() > kKeptCharacters) text_.shrink_to_fit();
   extents_ = {};
 }
 
-std::u16string_view XmlTree::copy(std::u16string_view characters) {
-  char16_t* const kept = characters_.allocate(characters.size());
+std::u16string_view XmlTree::Copy(std::u16string_view characters) {
+  char16_t* const kept = characters_.Allocate(characters.size());
   std::copy(characters.begin(), characters.end(), kept);
   return {kept, characters.size()};
 }
 
-XmlRecord& XmlTree::newNode(XmlName name, XmlNodeKind kind, size_t count) {
+XmlRecord& XmlTree::NewNode(XmlName name, XmlNodeKind kind, size_t count) {
   const uint32_t number = size_;
   if (number >> kBlockBits == blocks_.size()) {
     blocks_.push_back(std::make_unique_for_overwrite<XmlRecord[]>(kBlockSize));
@@ -61,46 +61,46 @@ XmlRecord& XmlTree::newNode(XmlName name, XmlNodeKind kind, size_t count) {
   return node;
 }
 
-void XmlTree::addElement(XmlName name, std::span<const XmlAttribute> attributes) {
-  endText(false);
-  newNode(name, XmlNodeKind::kElement, attributes.size()).attributes = attributes.data();
+void XmlTree::AddElement(XmlName name, std::span<const XmlAttribute> attributes) {
+  EndText(false);
+  NewNode(name, XmlNodeKind::Element, attributes.size()).attributes = attributes.data();
   open_.push_back({size_ - 1, kNone});
 }
 
-void XmlTree::endElement() {
-  endText(open_.back().lastChild == kNone);
+void XmlTree::EndElement() {
+  EndText(open_.back().lastChild == kNone);
   open_.pop_back();
 }
 
-void XmlTree::addComment(std::u16string_view characters) {
+void XmlTree::AddComment(std::u16string_view characters) {
   if (open_.empty()) return;
-  endText(false);
-  newNode(CommentName(), XmlNodeKind::kComment, characters.size()).text = copy(characters).data();
+  EndText(false);
+  NewNode(CommentName(), XmlNodeKind::Comment, characters.size()).text = Copy(characters).data();
 }
 
-void XmlTree::addInstruction(XmlName target, std::u16string_view content) {
+void XmlTree::AddInstruction(XmlName target, std::u16string_view content) {
   if (open_.empty()) return;
-  endText(false);
-  newNode(target, XmlNodeKind::kInstruction, content.size()).text = copy(content).data();
+  EndText(false);
+  NewNode(target, XmlNodeKind::Instruction, content.size()).text = Copy(content).data();
 }
 
-void XmlTree::endText(bool isOnlyChild) {
+void XmlTree::EndText(bool isOnlyChild) {
   if (text_.empty()) return;
   if (isOnlyChild || !IsXmlBlank(text_)) {
-    newNode(TextName(), XmlNodeKind::kText, text_.size()).text = copy(text_).data();
+    NewNode(TextName(), XmlNodeKind::Text, text_.size()).text = Copy(text_).data();
   }
   text_.clear();
 }
 
 std::span<const XmlAttribute> XmlTree::attributes(uint32_t node) const {
   const XmlRecord& found = record(node);
-  if (found.kind != static_cast<uint32_t>(XmlNodeKind::kElement)) return {};
+  if (found.kind != static_cast<uint32_t>(XmlNodeKind::Element)) return {};
   return {found.attributes, found.count};
 }
 
 std::u16string_view XmlTree::text(uint32_t node) const {
   const XmlRecord& found = record(node);
-  if (found.kind == static_cast<uint32_t>(XmlNodeKind::kElement)) return {};
+  if (found.kind == static_cast<uint32_t>(XmlNodeKind::Element)) return {};
   return {found.text, found.count};
 }
 

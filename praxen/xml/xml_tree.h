@@ -1,4 +1,4 @@
-// The compact tree behind a document.
+// The compact tree that a document is kept as.
 #ifndef PRAXEN_XML_XML_TREE_H_
 #define PRAXEN_XML_XML_TREE_H_
 
@@ -33,8 +33,8 @@ template <class T>
 class XmlArena {
  public:
   /// Room for `count` values without content.
-  T* allocate(size_t count) {
-    if (count > room_) grow(count);
+  T* Allocate(size_t count) {
+    if (count > room_) Grow(count);
     T* const run = next_;
     next_ += count;
     room_ -= count;
@@ -42,7 +42,7 @@ class XmlArena {
   }
 
   /// Gives everything up but one block for the next use.
-  void clear() {
+  void Clear() {
     if (!blocks_.empty()) blocks_.erase(blocks_.begin(), blocks_.end() - 1);
     if (!blocks_.empty() && blocks_.back().size > kLargestBlock) blocks_.clear();
     next_ = blocks_.empty() ? nullptr : blocks_.back().values.get();
@@ -58,7 +58,7 @@ class XmlArena {
     size_t size;
   };
 
-  void grow(size_t count) {
+  void Grow(size_t count) {
     const size_t step =
         blocks_.empty() ? kSmallestBlock : std::min(2 * blocks_.back().size, kLargestBlock);
     const size_t size = std::max(count, step);
@@ -73,7 +73,7 @@ class XmlArena {
 };
 
 /// What a node is.
-enum class XmlNodeKind : uint8_t { kElement, kText, kComment, kInstruction };
+enum class XmlNodeKind : uint8_t { Element, Text, Comment, Instruction };
 
 /// A node; nodes are numbered in document order, so that the first child follows its parent.
 struct XmlRecord {
@@ -98,18 +98,18 @@ class XmlTree {
   explicit XmlTree(std::u16string targetNamespace = {});
 
   /// Gives all nodes up. `source` is the text whose nodes are added next; it has to stay alive.
-  void clear(std::u16string_view source = {});
+  void Clear(std::u16string_view source = {});
 
   /// Room for the attributes of the next element.
-  XmlAttribute* newAttributes(size_t count) { return attributes_.allocate(count); }
+  XmlAttribute* NewAttributes(size_t count) { return attributes_.Allocate(count); }
   /// A copy of the characters.
-  std::u16string_view copy(std::u16string_view characters);
+  std::u16string_view Copy(std::u16string_view characters);
   /// Text that adjoins the text added before continues it. Blanks beside other nodes are dropped.
-  void addText(std::u16string_view characters) { text_.append(characters); }
-  void addElement(XmlName name, std::span<const XmlAttribute> attributes);
-  void endElement();
-  void addComment(std::u16string_view characters);
-  void addInstruction(XmlName target, std::u16string_view content);
+  void AddText(std::u16string_view characters) { text_.append(characters); }
+  void AddElement(XmlName name, std::span<const XmlAttribute> attributes);
+  void EndElement();
+  void AddComment(std::u16string_view characters);
+  void AddInstruction(XmlName target, std::u16string_view content);
 
   uint32_t size() const { return size_; }
   size_t depth() const { return open_.size(); }
@@ -127,7 +127,7 @@ class XmlTree {
   /// The node as markup that can be read by itself: an element is its piece of the source with the
   /// namespace declarations added that it takes from outside. The default namespace is added only
   /// where it is not the schema's.
-  std::u16string markup(uint32_t node) const;
+  std::u16string Markup(uint32_t node) const;
   /// The place of the node's first character.
   Place place(uint32_t node) const;
 
@@ -139,22 +139,22 @@ class XmlTree {
     uint32_t element;
     uint32_t lastChild;
   };
-  // Where a node stands in the source; `end` is set for elements only.
+  /// Where a node stands in the source; `end` is set for elements only.
   struct Extent {
     uint32_t begin;
     uint32_t end;
     uint32_t parent;
   };
 
-  XmlRecord& newNode(XmlName name, XmlNodeKind kind, size_t count);
+  XmlRecord& NewNode(XmlName name, XmlNodeKind kind, size_t count);
   XmlRecord& at(uint32_t node) { return blocks_[node >> kBlockBits][node & (kBlockSize - 1)]; }
-  void endText(bool isOnlyChild);
+  void EndText(bool isOnlyChild);
 
   const std::vector<Extent>& extents() const;
-  std::u16string missingDeclarations(uint32_t element) const;
-  std::vector<std::u16string_view> undeclaredPrefixes(uint32_t element) const;
-  // The namespace that an attribute such as "xmlns:p" declares around the element.
-  std::u16string_view outerNamespace(uint32_t element, std::u16string_view declaration) const;
+  std::u16string MissingDeclarations(uint32_t element) const;
+  std::vector<std::u16string_view> UndeclaredPrefixes(uint32_t element) const;
+  /// The namespace that an attribute such as "xmlns:p" declares around the element.
+  std::u16string_view OuterNamespace(uint32_t element, std::u16string_view declaration) const;
 
   const std::u16string targetNamespace_;
   std::u16string_view source_;
@@ -164,7 +164,7 @@ class XmlTree {
   XmlArena<char16_t> characters_;
   std::vector<Open> open_;
   std::u16string text_;
-  // Found when first asked for, since most documents are read without.
+  /// Found when first asked for, since most documents are read without.
   mutable std::vector<Extent> extents_;
 };
 

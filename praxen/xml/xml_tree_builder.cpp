@@ -18,11 +18,11 @@ bool Equals(const XMLCh* text, std::u16string_view other) {
 
 }  // namespace
 
-void XmlTreeBuilder::begin(XmlTree& tree) {
+void XmlTreeBuilder::Begin(XmlTree& tree) {
   tree_ = &tree;
   startedElements_ = 0;
   rootDeclared_ = false;
-  foreignNames_.clear();
+  foreignNames_.Clear();
 }
 
 std::u16string_view XmlTreeBuilder::openElement() const {
@@ -37,19 +37,19 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration, un
   const bool declared = declaration.isDeclared();
   if (isRoot) rootDeclared_ = declared;
   // Only declarations of the schema live longer than the load.
-  KnownElement* const element = declared ? &known(declaration) : nullptr;
+  KnownElement* const element = declared ? &Known(declaration) : nullptr;
   const XmlName name = element != nullptr && *prefix == 0
                            ? element->name
-                           : foreignNames_.intern(qualified(prefix, declaration.getBaseName()));
+                           : foreignNames_.Intern(Qualified(prefix, declaration.getBaseName()));
 
   ++element_;
-  XmlAttribute* const run = tree_->newAttributes(attributeCount);
+  XmlAttribute* const run = tree_->NewAttributes(attributeCount);
   size_t count = 0;
   size_t cursor = 0;
   for (XMLSize_t i = 0; i < attributeCount; ++i) {
     const xercesc::XMLAttr& given = *attributes.elementAt(i);
     const bool specified = given.getSpecified();
-    KnownAttribute* const attribute = element == nullptr ? nullptr : find(*element, cursor, given);
+    KnownAttribute* const attribute = element == nullptr ? nullptr : Find(*element, cursor, given);
     if (attribute != nullptr) {
       // Where it does not validate, as inside an unknown element, Xerces adds the default of an
       // attribute also when the text gives it.
@@ -57,58 +57,58 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration, un
       attribute->givenIn = element_;
     }
     const std::u16string_view value =
-        specified ? tree_->copy(given.getValue()) : defaultValue(attribute, given.getValue());
+        specified ? tree_->Copy(given.getValue()) : DefaultValue(attribute, given.getValue());
     run[count++] = {attribute != nullptr
                         ? attribute->name
-                        : foreignNames_.intern(qualified(given.getPrefix(), given.getName())),
+                        : foreignNames_.Intern(Qualified(given.getPrefix(), given.getName())),
                     value.data(), static_cast<uint32_t>(value.size()), specified};
   }
-  tree_->addElement(name, {run, count});
+  tree_->AddElement(name, {run, count});
   if (onElement) onElement();
 }
 
 void XmlTreeBuilder::endElement(const xercesc::XMLElementDecl&, unsigned int, bool, const XMLCh*) {
-  tree_->endElement();
+  tree_->EndElement();
 }
 
 void XmlTreeBuilder::docCharacters(const XMLCh* characters, XMLSize_t length, bool) {
-  tree_->addText({characters, length});
+  tree_->AddText({characters, length});
 }
 
-void XmlTreeBuilder::docComment(const XMLCh* comment) { tree_->addComment(comment); }
+void XmlTreeBuilder::docComment(const XMLCh* comment) { tree_->AddComment(comment); }
 
 void XmlTreeBuilder::docPI(const XMLCh* target, const XMLCh* data) {
-  tree_->addInstruction(foreignNames_.intern(target), data);
+  tree_->AddInstruction(foreignNames_.Intern(target), data);
 }
 
-XmlTreeBuilder::KnownElement& XmlTreeBuilder::known(const xercesc::XMLElementDecl& declaration) {
+XmlTreeBuilder::KnownElement& XmlTreeBuilder::Known(const xercesc::XMLElementDecl& declaration) {
   KnownElement& element = known_[&declaration];
-  if (element.name == nullptr) element.name = schemaNames_.intern(declaration.getBaseName());
+  if (element.name == nullptr) element.name = schemaNames_.Intern(declaration.getBaseName());
   return element;
 }
 
 // What is known of the attribute, which is mostly found at the cursor; null when it is not to be
 // remembered.
-XmlTreeBuilder::KnownAttribute* XmlTreeBuilder::find(KnownElement& element, size_t& cursor,
+XmlTreeBuilder::KnownAttribute* XmlTreeBuilder::Find(KnownElement& element, size_t& cursor,
                                                      const xercesc::XMLAttr& attribute) {
   const bool prefixed = *attribute.getPrefix() != 0;
   std::vector<KnownAttribute>& all = element.attributes;
   if (!prefixed && cursor < all.size() && Equals(attribute.getName(), *all[cursor].name)) {
     return &all[cursor++];
   }
-  const std::u16string_view name = qualified(attribute.getPrefix(), attribute.getName());
+  const std::u16string_view name = Qualified(attribute.getPrefix(), attribute.getName());
   for (size_t i = 0; i < all.size(); ++i) {
     if (*all[i].name != name) continue;
     cursor = i + 1;
     return &all[i];
   }
   if (all.size() == kRememberedAttributes) return nullptr;
-  all.push_back({schemaNames_.intern(name)});
+  all.push_back({schemaNames_.Intern(name)});
   cursor = all.size();
   return &all.back();
 }
 
-std::u16string_view XmlTreeBuilder::defaultValue(KnownAttribute* attribute, const XMLCh* value) {
+std::u16string_view XmlTreeBuilder::DefaultValue(KnownAttribute* attribute, const XMLCh* value) {
   if (attribute != nullptr && attribute->defaultValue.data() != nullptr &&
       Equals(value, attribute->defaultValue)) {
     return attribute->defaultValue;
@@ -121,7 +121,7 @@ std::u16string_view XmlTreeBuilder::defaultValue(KnownAttribute* attribute, cons
 }
 
 // The name with its prefix, valid until the next call.
-std::u16string_view XmlTreeBuilder::qualified(const XMLCh* prefix, const XMLCh* local) {
+std::u16string_view XmlTreeBuilder::Qualified(const XMLCh* prefix, const XMLCh* local) {
   if (*prefix == 0) return local;
   qualifiedName_ = prefix;
   return qualifiedName_.append(u":").append(local);

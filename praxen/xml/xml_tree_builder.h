@@ -25,7 +25,7 @@ namespace praxen::detail {
 class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
  public:
   /// Prepares for a load into `tree`, which has to be empty.
-  void begin(XmlTree& tree);
+  void Begin(XmlTree& tree);
 
   /// How many start tags were reported.
   size_t startedElements() const { return startedElements_; }
@@ -57,23 +57,23 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
   struct KnownAttribute {
     XmlName name;
     std::u16string_view defaultValue = {};
-    // The number of the last element that has it.
+    /// The number of the last element that has it.
     size_t givenIn = 0;
   };
   struct KnownElement {
     XmlName name = nullptr;
-    // In the order of first appearance, which the next element mostly repeats.
+    /// In the order of first appearance, which the next element mostly repeats.
     std::vector<KnownAttribute> attributes;
   };
 
-  KnownElement& known(const xercesc::XMLElementDecl& declaration);
-  KnownAttribute* find(KnownElement& element, size_t& cursor, const xercesc::XMLAttr& attribute);
-  std::u16string_view defaultValue(KnownAttribute* attribute, const XMLCh* value);
-  std::u16string_view qualified(const XMLCh* prefix, const XMLCh* local);
+  KnownElement& Known(const xercesc::XMLElementDecl& declaration);
+  KnownAttribute* Find(KnownElement& element, size_t& cursor, const xercesc::XMLAttr& attribute);
+  std::u16string_view DefaultValue(KnownAttribute* attribute, const XMLCh* value);
+  std::u16string_view Qualified(const XMLCh* prefix, const XMLCh* local);
 
   XmlTree* tree_ = nullptr;
   size_t startedElements_ = 0;
-  // The number of the element over all loads.
+  /// The number of the element over all loads.
   size_t element_ = 0;
   bool rootDeclared_ = false;
 

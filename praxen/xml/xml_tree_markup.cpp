@@ -2,52 +2,17 @@
 #include <algorithm>
 #include <utility>
 
-#include "praxen/core/numbers.h"
+#include "praxen/xml/xml_escape.h"
 #include "praxen/xml/xml_markup.h"
 #include "praxen/xml/xml_tree.h"
 
 namespace praxen::detail {
 namespace {
 
-void AppendEscaped(std::u16string& out, std::u16string_view text, std::u16string_view special) {
-  for (const char16_t c : text) {
-    if (special.find(c) == std::u16string_view::npos) {
-      out += c;
-    } else {
-      out += u"&#" + DecimalText(c) + u";";
-    }
-  }
-}
-
-std::u16string EscapedText(std::u16string_view text) {
-  std::u16string out;
-  for (const char16_t c : text) {
-    switch (c) {
-      case u'&':
-        out += u"&amp;";
-        break;
-      case u'<':
-        out += u"&lt;";
-        break;
-      case u'>':
-        out += u"&gt;";
-        break;
-      case u'\r':
-        out += u"&#13;";
-        break;
-      default:
-        out += c;
-    }
-  }
-  return out;
-}
-
 // A namespace declaration with a blank before it.
 std::u16string Declaration(std::u16string_view name, std::u16string_view value) {
   std::u16string out = u" ";
-  out.append(name).append(u"='");
-  AppendEscaped(out, value, u"&<'\t\n\r");
-  return out += u'\'';
+  return out.append(name).append(u"='").append(EscapeXml(value, u"&<'\t\n\r")).append(u"'");
 }
 
 std::u16string_view Prefix(std::u16string_view name) {
@@ -58,7 +23,7 @@ std::u16string_view Prefix(std::u16string_view name) {
 // Collects the prefixes that a run of elements in document order uses but does not declare.
 class PrefixCollector {
  public:
-  void addElement(size_t begin, size_t end, std::u16string_view name,
+  void AddElement(size_t begin, size_t end, std::u16string_view name,
                   std::span<const XmlAttribute> attributes) {
     while (!declared_.empty() && declared_.back().end <= begin) declared_.pop_back();
     for (const XmlAttribute& attribute : attributes) {
@@ -66,13 +31,13 @@ class PrefixCollector {
         declared_.push_back({std::u16string_view(*attribute.name).substr(kDeclares.size()), end});
       }
     }
-    use(Prefix(name));
+    Use(Prefix(name));
     for (const XmlAttribute& attribute : attributes) {
-      if (attribute.specified) use(Prefix(*attribute.name));
+      if (attribute.specified) Use(Prefix(*attribute.name));
     }
   }
 
-  std::vector<std::u16string_view> take() { return std::move(undeclared_); }
+  std::vector<std::u16string_view> Take() { return std::move(undeclared_); }
 
  private:
   static constexpr std::u16string_view kDeclares = u"xmlns:";
@@ -82,7 +47,7 @@ class PrefixCollector {
     size_t end;  // Of the element that declares it.
   };
 
-  void use(std::u16string_view prefix) {
+  void Use(std::u16string_view prefix) {
     if (prefix.empty() || prefix == u"xml" || prefix == u"xmlns") return;
     const auto declares = [&](const Declared& declared) { return declared.prefix == prefix; };
     if (std::any_of(declared_.rbegin(), declared_.rend(), declares)) return;
@@ -103,14 +68,14 @@ const XmlAttribute* Find(std::span<const XmlAttribute> attributes, std::u16strin
 
 }  // namespace
 
-std::u16string XmlTree::markup(uint32_t node) const {
+std::u16string XmlTree::Markup(uint32_t node) const {
   const XmlRecord& found = record(node);
   switch (static_cast<XmlNodeKind>(found.kind)) {
-    case XmlNodeKind::kText:
-      return EscapedText(text(node));
-    case XmlNodeKind::kComment:
+    case XmlNodeKind::Text:
+      return EscapeXml(text(node), u"&<>\r");
+    case XmlNodeKind::Comment:
       return std::u16string(u"<!--").append(text(node)).append(u"-->");
-    case XmlNodeKind::kInstruction: {
+    case XmlNodeKind::Instruction: {
       std::u16string instruction = u"<?" + *found.name;
       if (found.count != 0) instruction.append(u" ").append(text(node));
       return instruction.append(u"?>");
@@ -120,7 +85,7 @@ std::u16string XmlTree::markup(uint32_t node) const {
   }
   const Extent& extent = extents()[node];
   std::u16string slice(source_.substr(extent.begin, extent.end - extent.begin));
-  return slice.insert(1 + found.name->size(), missingDeclarations(node));
+  return slice.insert(1 + found.name->size(), MissingDeclarations(node));
 }
 
 Place XmlTree::place(uint32_t node) const { return PlaceAt(source_, extents()[node].begin); }
@@ -134,7 +99,7 @@ const std::vector<XmlTree::Extent>& XmlTree::extents() const {
   const auto isNext = [&](XmlNodeKind kind) {
     const auto next = static_cast<uint32_t>(extents_.size());
     if (next == size_ || record(next).kind != static_cast<uint32_t>(kind)) return false;
-    if (open.empty()) return kind == XmlNodeKind::kElement;
+    if (open.empty()) return kind == XmlNodeKind::Element;
     const Open& parent = open.back();
     if (parent.lastChild == kNone) return firstChild(parent.element) == next;
     return record(parent.lastChild).next == next;
@@ -146,26 +111,26 @@ const std::vector<XmlTree::Extent>& XmlTree::extents() const {
     if (!open.empty()) open.back().lastChild = node;
     return node;
   };
-  for (XmlMarkupReader reader(source_); reader.next();) {
+  for (XmlMarkupReader reader(source_); reader.Next();) {
     const XmlMarkup& markup = reader.markup();
     switch (markup.kind) {
-      case XmlMarkupKind::kText:
-      case XmlMarkupKind::kCData:
-        if (isNext(XmlNodeKind::kText)) add(markup);
+      case XmlMarkupKind::Text:
+      case XmlMarkupKind::CData:
+        if (isNext(XmlNodeKind::Text)) add(markup);
         break;
-      case XmlMarkupKind::kComment:
-        if (isNext(XmlNodeKind::kComment)) add(markup);
+      case XmlMarkupKind::Comment:
+        if (isNext(XmlNodeKind::Comment)) add(markup);
         break;
-      case XmlMarkupKind::kInstruction:
-        if (isNext(XmlNodeKind::kInstruction)) add(markup);
+      case XmlMarkupKind::Instruction:
+        if (isNext(XmlNodeKind::Instruction)) add(markup);
         break;
-      case XmlMarkupKind::kStartTag:
+      case XmlMarkupKind::StartTag:
         open.push_back({add(markup), kNone});
         break;
-      case XmlMarkupKind::kEmptyTag:
+      case XmlMarkupKind::EmptyTag:
         add(markup);
         break;
-      case XmlMarkupKind::kEndTag:
+      case XmlMarkupKind::EndTag:
         extents_[open.back().element].end = static_cast<uint32_t>(markup.end);
         open.pop_back();
         break;
@@ -176,31 +141,31 @@ const std::vector<XmlTree::Extent>& XmlTree::extents() const {
   return extents_;
 }
 
-std::u16string XmlTree::missingDeclarations(uint32_t element) const {
+std::u16string XmlTree::MissingDeclarations(uint32_t element) const {
   std::u16string declarations;
-  for (const std::u16string_view prefix : undeclaredPrefixes(element)) {
+  for (const std::u16string_view prefix : UndeclaredPrefixes(element)) {
     const std::u16string name = std::u16string(u"xmlns:").append(prefix);
-    declarations += Declaration(name, outerNamespace(element, name));
+    declarations += Declaration(name, OuterNamespace(element, name));
   }
   if (Find(attributes(element), u"xmlns") != nullptr) return declarations;
-  const std::u16string_view standard = outerNamespace(element, u"xmlns");
+  const std::u16string_view standard = OuterNamespace(element, u"xmlns");
   if (standard != targetNamespace_) declarations += Declaration(u"xmlns", standard);
   return declarations;
 }
 
-std::vector<std::u16string_view> XmlTree::undeclaredPrefixes(uint32_t element) const {
+std::vector<std::u16string_view> XmlTree::UndeclaredPrefixes(uint32_t element) const {
   const std::vector<Extent>& places = extents();
   PrefixCollector prefixes;
   const size_t end = places[element].end;
   for (uint32_t node = element; node < size_ && places[node].begin < end; ++node) {
     const XmlRecord& found = record(node);
-    if (found.kind != static_cast<uint32_t>(XmlNodeKind::kElement)) continue;
-    prefixes.addElement(places[node].begin, places[node].end, *found.name, attributes(node));
+    if (found.kind != static_cast<uint32_t>(XmlNodeKind::Element)) continue;
+    prefixes.AddElement(places[node].begin, places[node].end, *found.name, attributes(node));
   }
-  return prefixes.take();
+  return prefixes.Take();
 }
 
-std::u16string_view XmlTree::outerNamespace(uint32_t element,
+std::u16string_view XmlTree::OuterNamespace(uint32_t element,
                                             std::u16string_view declaration) const {
   const std::vector<Extent>& places = extents();
   for (uint32_t node = places[element].parent; node != kNone; node = places[node].parent) {

@@ -173,7 +173,7 @@ Operation LoadingForTheFirstTime() {
   ErrorOf([] { ObjectFactory::DeserializeVariable(u""); });
   return {[] {
     XmlDocument document(FindSchema());
-    return document.loadXML(u"<Variable xmlns='PraxenSchema3_0' Name='n' Type='' Attribute=''/>")
+    return document.LoadXML(u"<Variable xmlns='PraxenSchema3_0' Name='n' Type='' Attribute=''/>")
                ? Text(document.documentElement().attribute(u"Name")->value())
                : Text(document.parseError().reason);
   }};

@@ -49,7 +49,7 @@ std::string Outline(const std::string& name, const Attributes& attributes, const
 class Ours {
  public:
   std::optional<std::string> Read(const std::u16string& text) {
-    if (!document_.loadXML(text) || !document_.rootDeclared()) return std::nullopt;
+    if (!document_.LoadXML(text) || !document_.rootDeclared()) return std::nullopt;
     return OutlineOf(document_.documentElement());
   }
 
@@ -123,7 +123,7 @@ class Theirs {
   // Adjoining pieces of text are one; blanks count where they are all that an element holds.
   static std::string ChildrenOf(const xmlNode& node) {
     std::string children, text;
-    const auto endText = [&](bool isOnlyChild) {
+    const auto EndText = [&](bool isOnlyChild) {
       if (!text.empty() && (isOnlyChild || text.find_first_not_of(" \t\r\n") != text.npos)) {
         children += Outline("#text", {}, text, "");
       }
@@ -133,11 +133,11 @@ class Theirs {
       if (child->type == XML_TEXT_NODE || child->type == XML_CDATA_SECTION_NODE) {
         text += ToString(child->content);
       } else {
-        endText(false);
+        EndText(false);
         children += OutlineOf(*child);
       }
     }
-    endText(children.empty());
+    EndText(children.empty());
     return children;
   }
 
@@ -176,7 +176,7 @@ TEST(Differential, NoDefaultStandsBesideAGivenValue) {
         u"</odd></Program>",
         u"<FDCodeBlock xmlns='PraxenSchema3_0' Name='p'><odd><Signal AcknowledgeGroup='g'/></odd>"
         u"</FDCodeBlock>"}) {
-    ASSERT_TRUE(document.loadXML(text));
+    ASSERT_TRUE(document.LoadXML(text));
     const XmlNode signal = document.documentElement().firstChild().firstChild();
     const auto isGroup = [](const XmlAttribute& a) { return *a.name == u"AcknowledgeGroup"; };
     EXPECT_EQ(std::ranges::count_if(signal.attributes(), isGroup), 1);

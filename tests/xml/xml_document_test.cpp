@@ -95,10 +95,10 @@ XmlDocument& Shared() {
 
 std::string Load(std::u16string_view text) {
   XmlDocument& document = Shared();
-  if (document.loadXML(text)) return Outline(document.documentElement());
+  if (document.LoadXML(text)) return Outline(document.documentElement());
   EXPECT_FALSE(document.documentElement());
   const std::string reason = Narrow(document.parseError().reason);
-  EXPECT_TRUE(document.loadXML(kGood)) << "after: " << reason;
+  EXPECT_TRUE(document.LoadXML(kGood)) << "after: " << reason;
   return reason;
 }
 
@@ -229,7 +229,7 @@ TEST_P(HostileText, IsReadOrRefusedInTime) {
   const HostileCase& hostile = GetParam();
   const std::u16string text = hostile.text();
   const auto start = std::chrono::steady_clock::now();
-  const bool loaded = Shared().loadXML(text);
+  const bool loaded = Shared().LoadXML(text);
   EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
   EXPECT_EQ(loaded, hostile.expected == nullptr) << Narrow(Shared().parseError().reason);
   if (hostile.expected != nullptr) {
@@ -237,7 +237,7 @@ TEST_P(HostileText, IsReadOrRefusedInTime) {
         << Narrow(Shared().parseError().reason.substr(0, 300));
     EXPECT_LT(Shared().parseError().reason.size(), 3000U);
   }
-  EXPECT_TRUE(Shared().loadXML(kGood));
+  EXPECT_TRUE(Shared().LoadXML(kGood));
 }
 
 // Start tags with a running number in place of "#".
@@ -337,7 +337,7 @@ INSTANTIATE_TEST_SUITE_P(
 // Of a text that is too long nothing is looked at.
 TEST(XmlDocument, RefusesATextThatIsTooLong) {
   const std::u16string few = u"<a/>";
-  EXPECT_FALSE(Shared().loadXML({few.data(), 500'000'001}));
+  EXPECT_FALSE(Shared().LoadXML({few.data(), 500'000'001}));
   EXPECT_EQ(Narrow(Shared().parseError().reason),
             "The document is too long; at most 500000000 characters are allowed.");
   EXPECT_EQ(Shared().parseError().place, Place());
@@ -351,9 +351,9 @@ TEST(XmlDocument, AsksForTheSchemaOnceAndWhenFirstNeeded) {
   });
   EXPECT_EQ(asked, 0);
   EXPECT_FALSE(document.documentElement());
-  EXPECT_TRUE(document.loadXML(kGood));
-  EXPECT_FALSE(document.loadXML(u"<"));
-  EXPECT_TRUE(document.loadXML(kGood));
+  EXPECT_TRUE(document.LoadXML(kGood));
+  EXPECT_FALSE(document.LoadXML(u"<"));
+  EXPECT_TRUE(document.LoadXML(kGood));
   EXPECT_EQ(asked, 1);
 }
 
@@ -362,7 +362,7 @@ TEST(XmlDocument, SchemaThatCannotBeUsedFailsEveryLoadUntilItCan) {
   XmlDocument document([&] { return schema; });
   const auto reasonWith = [&](const std::string& content) {
     schema.content = content;
-    EXPECT_FALSE(document.loadXML(kGood));
+    EXPECT_FALSE(document.LoadXML(kGood));
     EXPECT_EQ(document.parseError().place, Place());
     return Narrow(document.parseError().reason);
   };
@@ -381,13 +381,13 @@ TEST(XmlDocument, SchemaThatCannotBeUsedFailsEveryLoadUntilItCan) {
   schema.targetNamespace = u"urn:other";
   EXPECT_NE(reasonWith(kSchema).find("the target namespace is not 'urn:other'"), std::string::npos);
   schema = TestSchema();
-  EXPECT_TRUE(document.loadXML(kGood));
+  EXPECT_TRUE(document.LoadXML(kGood));
 }
 
 TEST(XmlDocument, TellsWhetherTheRootIsDeclared) {
   XmlDocument document(TestSchema);
   const auto declared = [&](std::u16string_view text) {
-    EXPECT_TRUE(document.loadXML(text)) << Narrow(document.parseError().reason);
+    EXPECT_TRUE(document.LoadXML(text)) << Narrow(document.parseError().reason);
     return document.rootDeclared();
   };
   EXPECT_TRUE(declared(kGood));
@@ -395,7 +395,7 @@ TEST(XmlDocument, TellsWhetherTheRootIsDeclared) {
   EXPECT_FALSE(declared(u"<Value/>"));
   EXPECT_FALSE(declared(u"<Value xmlns='urn:other'/>"));
   EXPECT_FALSE(declared(u"<Other xmlns='urn:test'><Limits High='x'/></Other>"));
-  EXPECT_FALSE(document.loadXML(u"<Other xmlns='urn:test'><Limits></Other>"));
+  EXPECT_FALSE(document.LoadXML(u"<Other xmlns='urn:test'><Limits></Other>"));
   EXPECT_FALSE(document.rootDeclared());
 }
 
@@ -405,8 +405,8 @@ TEST(XmlDocument, ReadsMoreThanOneBlockOfEverything) {
   const std::u16string text = u"<List xmlns='urn:test' Name='all'>" +
                               Numbered(u"<List Name='#'><Value>text #</Value></List>\n", kItems) +
                               u"</List>";
-  ASSERT_TRUE(document.loadXML(kGood));
-  ASSERT_TRUE(document.loadXML(text)) << Narrow(document.parseError().reason);
+  ASSERT_TRUE(document.LoadXML(kGood));
+  ASSERT_TRUE(document.LoadXML(text)) << Narrow(document.parseError().reason);
   size_t i = 0;
   for (XmlNode item = document.documentElement().firstChild(); item; item = item.nextSibling()) {
     const std::u16string number = DecimalText(i++);
@@ -415,12 +415,12 @@ TEST(XmlDocument, ReadsMoreThanOneBlockOfEverything) {
     ASSERT_EQ(item.firstChild().firstChild().nodeValue(), u"text " + number);
     if (i % 1000 == 0) {
       ASSERT_EQ(
-          item.xml(),
+          item.Markup(),
           Numbered(u"<List Name='" + number + u"'><Value>text " + number + u"</Value></List>", 1));
     }
   }
   EXPECT_EQ(i, kItems);
-  ASSERT_TRUE(document.loadXML(kGood));
+  ASSERT_TRUE(document.LoadXML(kGood));
   EXPECT_EQ(Outline(document.documentElement()),
             "List(xmlns='urn:test' Name='x' Scope~'private' Hidden~'0')");
 }
@@ -431,10 +431,10 @@ TEST(XmlDocument, LoadsOnAfterManyForeignNamespaces) {
     const std::u16string other = u"'u" + DecimalText(round) + u"-#'";
     const std::u16string text =
         u"<a>" + Numbered(u"<b xmlns:p=" + other + u" p:c=''/>", 1900) + u"</a>";
-    ASSERT_TRUE(document.loadXML(text)) << Narrow(document.parseError().reason);
+    ASSERT_TRUE(document.LoadXML(text)) << Narrow(document.parseError().reason);
     EXPECT_EQ(Narrow(document.documentElement().firstChild().nodeName()), "b");
   }
-  EXPECT_TRUE(document.loadXML(kGood));
+  EXPECT_TRUE(document.LoadXML(kGood));
 }
 
 // Whatever is done to one character of a document, or to its end, it loads or fails with a reason
@@ -445,9 +445,9 @@ TEST(XmlDocument, SurvivesDamage) {
       u"<Limits High='1' Unit='mm'><Value>&lt;<![CDATA[b]]></Value></Limits><?c d?></List>";
   const auto check = [](std::u16string_view text) {
     XmlDocument& document = Shared();
-    if (document.loadXML(text)) {
+    if (document.LoadXML(text)) {
       Outline(document.documentElement());
-      document.documentElement().firstChild().xml();
+      document.documentElement().firstChild().Markup();
       return;
     }
     const XmlParseError& error = document.parseError();
@@ -464,7 +464,7 @@ TEST(XmlDocument, SurvivesDamage) {
       check(damaged);
     }
   }
-  EXPECT_TRUE(Shared().loadXML(whole)) << Narrow(Shared().parseError().reason);
+  EXPECT_TRUE(Shared().LoadXML(whole)) << Narrow(Shared().parseError().reason);
 }
 
 TEST(XmlDocument, NeverFollowsSchemaLocations) {
@@ -479,13 +479,13 @@ TEST(XmlNode, AbsentNodesLeadToAbsentNodes) {
   EXPECT_FALSE(absent.firstChild().nextSibling().childNode(3));
   EXPECT_EQ(absent.name(), nullptr);
   EXPECT_EQ(absent.attribute(u"a"), nullptr);
-  EXPECT_TRUE(absent.nodeName().empty() && absent.nodeValue().empty() && absent.xml().empty());
+  EXPECT_TRUE(absent.nodeName().empty() && absent.nodeValue().empty() && absent.Markup().empty());
   EXPECT_EQ(absent.place(), Place());
 }
 
 TEST(XmlNode, FindsAttributesInAnyOrder) {
   XmlDocument document(TestSchema);
-  ASSERT_TRUE(document.loadXML(u"<List xmlns='urn:test' Name='x' Hidden=''/>"));
+  ASSERT_TRUE(document.LoadXML(u"<List xmlns='urn:test' Name='x' Hidden=''/>"));
   const XmlNode root = document.documentElement();
   for (const char16_t* const name : {u"Hidden", u"Name", u"Scope", u"Scope", u"xmlns"}) {
     const XmlAttribute* const attribute = root.attribute(InternXmlName(name));
@@ -499,17 +499,17 @@ TEST(XmlNode, FindsAttributesInAnyOrder) {
 
 TEST(XmlNode, NamesInternedAfterTheLoadAreTheSame) {
   XmlDocument document(TestSchema);
-  ASSERT_TRUE(document.loadXML(u"<Unheard><Unseen/></Unheard>"));
+  ASSERT_TRUE(document.LoadXML(u"<Unheard><Unseen/></Unheard>"));
   EXPECT_EQ(document.documentElement().name(), InternXmlName(u"Unheard"));
-  document.clear();
-  ASSERT_TRUE(document.loadXML(u"<Unheard/>"));
+  document.Clear();
+  ASSERT_TRUE(document.LoadXML(u"<Unheard/>"));
   EXPECT_EQ(document.documentElement().name(), InternXmlName(u"Unheard"));
 }
 
 TEST(XmlNode, ChildrenByIndexAndPositions) {
   XmlDocument document(TestSchema);
   ASSERT_TRUE(
-      document.loadXML(u"<!-- a --><o>\r\n <b/> text\n<c> </c><!-- d -->\n"
+      document.LoadXML(u"<!-- a --><o>\r\n <b/> text\n<c> </c><!-- d -->\n"
                        u"<?e f?><g><![CDATA[h]]>i</g></o>"));
   const XmlNode root = document.documentElement();
   const struct {
@@ -530,8 +530,8 @@ TEST(XmlNode, ChildrenByIndexAndPositions) {
 // The markup of the first child of the root.
 std::string FirstChildMarkup(std::u16string_view text) {
   XmlDocument document(TestSchema);
-  EXPECT_TRUE(document.loadXML(text)) << Narrow(document.parseError().reason);
-  return Narrow(document.documentElement().firstChild().xml());
+  EXPECT_TRUE(document.LoadXML(text)) << Narrow(document.parseError().reason);
+  return Narrow(document.documentElement().firstChild().Markup());
 }
 
 TEST(XmlNode, MarkupStandsByItself) {
@@ -547,7 +547,7 @@ TEST(XmlNode, MarkupStandsByItself) {
       {u"<t:List xmlns:t='urn:test' xmlns='urn:test' Name='x'><t:Value/></t:List>",
        "<t:Value xmlns:t='urn:test'/>"},
       {u"<a xmlns='urn:test' xmlns:p=\"it's &lt;&amp;&#10;\" xmlns:q='q'><b p:c='q:d'/></a>",
-       "<b xmlns:p='it&#39;s &#60;&#38;&#10;' p:c='q:d'/>"},
+       "<b xmlns:p='it&apos;s &lt;&amp;&#10;' p:c='q:d'/>"},
       {u"<a xmlns='urn:test' xmlns:p='1' xmlns:q='2'>"
        u"<b xml:lang='x'><p:c xmlns:p='3'><p:d/></p:c><q:e/><q:e/><!-- p:f --></b></a>",
        "<b xmlns:q='2' xml:lang='x'><p:c xmlns:p='3'><p:d/></p:c><q:e/><q:e/><!-- p:f --></b>"},

@@ -20,7 +20,7 @@ void FDCodeBlock::WriteDiagram(XMLStringWriter& writer) { writer.WriteXMLElement
 
 void FDCodeBlock::ReadDiagram(XmlNode& cursor) {
   if (!cursor) return;
-  FDAsXMLStr = cursor.xml();
+  FDAsXMLStr = cursor.Markup();
   cursor = cursor.nextSibling();
 }
 
