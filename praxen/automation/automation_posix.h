@@ -14,29 +14,29 @@
 
 // ---- Numbers and text
 
-using BYTE = std::uint8_t;
+using BYTE = uint8_t;
 using CHAR = char;
-using SHORT = std::int16_t;
-using USHORT = std::uint16_t;
-using WORD = std::uint16_t;
-using INT = std::int32_t;
-using UINT = std::uint32_t;
-using LONG = std::int32_t;
-using ULONG = std::uint32_t;
-using DWORD = std::uint32_t;
-using LONGLONG = std::int64_t;
-using ULONGLONG = std::uint64_t;
+using SHORT = int16_t;
+using USHORT = uint16_t;
+using WORD = uint16_t;
+using INT = int32_t;
+using UINT = uint32_t;
+using LONG = int32_t;
+using ULONG = uint32_t;
+using DWORD = uint32_t;
+using LONGLONG = int64_t;
+using ULONGLONG = uint64_t;
 using FLOAT = float;
 using DOUBLE = double;
 using PVOID = void*;
 using LPVOID = void*;
 
-using BOOL = std::int32_t;
+using BOOL = int32_t;
 inline constexpr BOOL FALSE = 0;
 inline constexpr BOOL TRUE = 1;
 
-// An automation boolean: every value but VARIANT_FALSE counts as true when read.
-using VARIANT_BOOL = std::int16_t;
+/// An automation boolean: every value but VARIANT_FALSE counts as true when read.
+using VARIANT_BOOL = int16_t;
 inline constexpr VARIANT_BOOL VARIANT_FALSE = 0;
 inline constexpr VARIANT_BOOL VARIANT_TRUE = -1;
 
@@ -44,21 +44,21 @@ using OLECHAR = char16_t;
 using LPOLESTR = OLECHAR*;
 using LPCOLESTR = const OLECHAR*;
 
-// Text preceded by its length in bytes (32 bits) and followed by a null character that the length
-// does not count; null stands for the empty text.
+/// Text preceded by its length in bytes (32 bits) and followed by a null character that the length
+/// does not count; null stands for the empty text.
 using BSTR = OLECHAR*;
 
 using LCID = DWORD;
 inline constexpr LCID LOCALE_INVARIANT = 0x007F;
 inline constexpr LCID LOCALE_USER_DEFAULT = 0x0400;
 
-// Days since 30 December 1899, the time of day as the fraction.
+/// Days since 30 December 1899, the time of day as the fraction.
 using DATE = double;
 
 // ---- Results
 
-using HRESULT = std::int32_t;
-using SCODE = std::int32_t;
+using HRESULT = int32_t;
+using SCODE = int32_t;
 
 constexpr bool SUCCEEDED(HRESULT result) noexcept { return result >= 0; }
 constexpr bool FAILED(HRESULT result) noexcept { return result < 0; }
@@ -111,10 +111,10 @@ inline constexpr HRESULT SELFREG_E_CLASS = static_cast<HRESULT>(0x80040201);
 // ---- Identifiers
 
 struct GUID {
-  std::uint32_t Data1;
-  std::uint16_t Data2;
-  std::uint16_t Data3;
-  std::uint8_t Data4[8];
+  uint32_t Data1;
+  uint16_t Data2;
+  uint16_t Data3;
+  uint8_t Data4[8];
 
   friend constexpr bool operator==(const GUID&, const GUID&) = default;
 };
@@ -143,7 +143,7 @@ inline constexpr WORD DISPATCH_PROPERTYPUTREF = 8;
 
 // ---- Variants
 
-using VARTYPE = std::uint16_t;
+using VARTYPE = uint16_t;
 
 enum VARENUM {
   VT_EMPTY = 0,
@@ -182,7 +182,7 @@ enum VARENUM {
   VT_TYPEMASK = 0x0FFF,
 };
 
-// Flags of VariantChangeType.
+/// Flags of VariantChangeType.
 inline constexpr USHORT VARIANT_NOVALUEPROP = 0x01;
 inline constexpr USHORT VARIANT_ALPHABOOL = 0x02;
 inline constexpr USHORT VARIANT_NOUSEROVERRIDE = 0x04;
@@ -194,12 +194,12 @@ struct IRecordInfo;
 struct ITypeInfo;
 struct SAFEARRAY;
 
-// A currency amount in ten-thousandths.
+/// A currency amount in ten-thousandths.
 struct CY {
   LONGLONG int64;
 };
 
-// A decimal: 96 bits of magnitude, a power of ten from 0 to 28 and a sign (0 or 0x80).
+/// A decimal: 96 bits of magnitude, a power of ten from 0 to 28 and a sign (0 or 0x80).
 struct DECIMAL {
   USHORT wReserved;
   BYTE scale;
@@ -212,7 +212,7 @@ struct tagVARIANT;
 using VARIANT = tagVARIANT;
 
 struct tagVARIANT {
-  // The decimal shares its first two bytes, which it leaves unused, with the type.
+  /// The decimal shares its first two bytes, which it leaves unused, with the type.
   __extension__ union {
     __extension__ struct {
       VARTYPE vt;
@@ -275,7 +275,7 @@ struct tagVARIANT {
 
 using VARIANTARG = VARIANT;
 
-// The arguments of a call, last first; the named ones come before the others.
+/// The arguments of a call, last first; the named ones come before the others.
 struct DISPPARAMS {
   VARIANTARG* rgvarg;
   DISPID* rgdispidNamedArgs;
@@ -283,7 +283,7 @@ struct DISPPARAMS {
   UINT cNamedArgs;
 };
 
-// What a failed call tells: either wCode or scode is set; the receiver frees the texts.
+/// What a failed call tells: either wCode or scode is set; the receiver frees the texts.
 struct EXCEPINFO {
   WORD wCode;
   WORD wReserved;
@@ -302,7 +302,7 @@ static_assert(sizeof(void*) != 8 || (sizeof(EXCEPINFO) == 64 && sizeof(DISPPARAM
 
 // ---- Interfaces
 
-// The flag of CoCreateInstance for servers that are loaded into the process, the only kind here.
+/// The flag of CoCreateInstance for servers that are loaded into the process, the only kind here.
 inline constexpr DWORD CLSCTX_INPROC_SERVER = 1;
 
 #pragma GCC visibility push(default)
@@ -374,67 +374,67 @@ inline constexpr IID IID_ISupportErrorInfo = {
 
 extern "C" {
 
-// Allocates a copy of a null-terminated text; null for null or when memory is short.
+/// Allocates a copy of a null-terminated text; null for null or when memory is short.
 BSTR SysAllocString(const OLECHAR* text) noexcept;
-// Allocates a copy of length characters, or as many zeros when text is null.
+/// Allocates a copy of length characters, or as many zeros when text is null.
 BSTR SysAllocStringLen(const OLECHAR* text, UINT length) noexcept;
-// Allocates a copy of length bytes, or as many zeros when bytes is null.
+/// Allocates a copy of length bytes, or as many zeros when bytes is null.
 BSTR SysAllocStringByteLen(const char* bytes, UINT length) noexcept;
-// Replaces *text by a copy of source, which may lie in *text; false when memory is short.
+/// Replaces *text by a copy of source, which may lie in *text; false when memory is short.
 INT SysReAllocString(BSTR* text, const OLECHAR* source) noexcept;
-// Replaces *text by a copy of length characters of source, which may lie in *text; a null source
-// keeps the characters of *text that fit and fills up with zeros. False when memory is short.
+/// Replaces *text by a copy of length characters of source, which may lie in *text; a null source
+/// keeps the characters of *text that fit and fills up with zeros. False when memory is short.
 INT SysReAllocStringLen(BSTR* text, const OLECHAR* source, UINT length) noexcept;
-// Frees a text; null is allowed.
+/// Frees a text; null is allowed.
 void SysFreeString(BSTR text) noexcept;
-// The length in characters, 0 for null.
+/// The length in characters, 0 for null.
 UINT SysStringLen(BSTR text) noexcept;
-// The length in bytes, 0 for null.
+/// The length in bytes, 0 for null.
 UINT SysStringByteLen(BSTR text) noexcept;
 
-// Makes any memory an empty variant, without freeing what it held.
+/// Makes any memory an empty variant, without freeing what it held.
 void VariantInit(VARIANTARG* variant) noexcept;
-// Frees what the variant owns and makes it empty; what is held by reference stays.
-// DISP_E_BADVARTYPE, and no change, for types that do not exist here, arrays among them.
+/// Frees what the variant owns and makes it empty; what is held by reference stays.
+/// DISP_E_BADVARTYPE, and no change, for types that do not exist here, arrays among them.
 HRESULT VariantClear(VARIANTARG* variant) noexcept;
-// Clears target and makes it a copy that owns its text or object; references stay references.
+/// Clears target and makes it a copy that owns its text or object; references stay references.
 HRESULT VariantCopy(VARIANTARG* target, const VARIANTARG* source) noexcept;
-// As VariantCopy, but copies what a reference refers to; E_INVALIDARG for a reference to a variant
-// that is itself a reference to a variant, and for a null reference.
+/// As VariantCopy, but copies what a reference refers to; E_INVALIDARG for a reference to a variant
+/// that is itself a reference to a variant, and for a null reference.
 HRESULT VariantCopyInd(VARIANT* target, const VARIANTARG* source) noexcept;
-// Converts source, or what it refers to, to a type and stores it in target, which may be source
-// and which stays unchanged when the conversion fails. DISP_E_TYPEMISMATCH when there is no such
-// conversion, DISP_E_OVERFLOW when the value does not fit, DISP_E_BADVARTYPE for a type unknown.
+/// Converts source, or what it refers to, to a type and stores it in target, which may be source
+/// and which stays unchanged when the conversion fails. DISP_E_TYPEMISMATCH when there is no such
+/// conversion, DISP_E_OVERFLOW when the value does not fit, DISP_E_BADVARTYPE for a type unknown.
 HRESULT VariantChangeType(VARIANTARG* target, const VARIANTARG* source, USHORT flags,
                           VARTYPE type) noexcept;
-// As VariantChangeType. The locale is ignored: the decimal separator is ".", digits are grouped
-// by ",", and there is no conversion between dates and text.
+/// As VariantChangeType. The locale is ignored: the decimal separator is ".", digits are grouped
+/// by ",", and there is no conversion between dates and text.
 HRESULT VariantChangeTypeEx(VARIANTARG* target, const VARIANTARG* source, LCID locale, USHORT flags,
                             VARTYPE type) noexcept;
 
-// Sets the error object of the calling thread, null for none; reserved must be 0.
+/// Sets the error object of the calling thread, null for none; reserved must be 0.
 HRESULT SetErrorInfo(ULONG reserved, IErrorInfo* info) noexcept;
-// Hands over the error object of the calling thread, which then has none; S_FALSE and null when
-// there is none; reserved must be 0.
+/// Hands over the error object of the calling thread, which then has none; S_FALSE and null when
+/// there is none; reserved must be 0.
 HRESULT GetErrorInfo(ULONG reserved, IErrorInfo** info) noexcept;
-// Creates an error object, which answers IErrorInfo as well.
+/// Creates an error object, which answers IErrorInfo as well.
 HRESULT CreateErrorInfo(ICreateErrorInfo** info) noexcept;
 
-// Allocates memory that another module may free; null when memory is short.
-LPVOID CoTaskMemAlloc(std::size_t size) noexcept;
-// Frees memory of CoTaskMemAlloc; null is allowed.
+/// Allocates memory that another module may free; null when memory is short.
+LPVOID CoTaskMemAlloc(size_t size) noexcept;
+/// Frees memory of CoTaskMemAlloc; null is allowed.
 void CoTaskMemFree(LPVOID memory) noexcept;
 
-// Finds the class of a programmatic identifier; CO_E_CLASSSTRING when it is not registered.
+/// Finds the class of a programmatic identifier; CO_E_CLASSSTRING when it is not registered.
 HRESULT CLSIDFromProgID(LPCOLESTR progId, CLSID* clsid) noexcept;
 
-// Loads the server of a class and creates an object of it. REGDB_E_CLASSNOTREG when the class is
-// not registered, CO_E_DLLNOTFOUND when the server cannot be loaded, CO_E_ERRORINDLL when it is
-// not a server, otherwise what the server answers.
+/// Loads the server of a class and creates an object of it. REGDB_E_CLASSNOTREG when the class is
+/// not registered, CO_E_DLLNOTFOUND when the server cannot be loaded, CO_E_ERRORINDLL when it is
+/// not a server, otherwise what the server answers.
 HRESULT CoCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD context, REFIID iid,
                          void** object) noexcept;
 
-// Unloads the servers that agree to it.
+/// Unloads the servers that agree to it.
 HRESULT CoFreeUnusedLibraries() noexcept;
 
 }  // extern "C"

@@ -1,5 +1,4 @@
 // Creating objects of registered classes: servers are loaded once and stay until they agree to go.
-
 #include "praxen/automation/class_registry_posix.h"
 #include "praxen/automation/guard.h"
 #include "praxen/automation/values.h"

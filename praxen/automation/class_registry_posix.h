@@ -17,36 +17,36 @@ namespace praxen::detail {
 // lines for the same class the first counts. The file is replaced as a whole, so that a reader
 // never sees half of it; of two processes that write at the same time, the later one wins.
 
-// A class that a server offers.
+/// A class that a server offers.
 struct ClassEntry {
-  // Without tabs and line breaks; compared without regard to case.
+  /// Without tabs and line breaks; compared without regard to case.
   std::string progId;
   CLSID clsid;
 };
 
-// Where a class is found.
+/// Where a class is found.
 struct ClassLocation {
   CLSID clsid;
   std::filesystem::path server;
 };
 
-// The registry file: the one that the environment variable PRAXENHELPER_REGISTRY names, otherwise
-// praxenhelper/classes in the user's data folder; empty when the user has no such folder.
+/// The registry file: the one that the environment variable PRAXENHELPER_REGISTRY names, otherwise
+/// praxenhelper/classes in the user's data folder; empty when the user has no such folder.
 std::filesystem::path RegistryFile();
 
-// Registers the classes of a server in place of what was registered under their names and
-// identifiers. E_INVALIDARG for names or a path that the file cannot hold, REGDB_E_READREGDB and
-// REGDB_E_WRITEREGDB when the file cannot be read or replaced.
+/// Registers the classes of a server in place of what was registered under their names and
+/// identifiers. E_INVALIDARG for names or a path that the file cannot hold, REGDB_E_READREGDB and
+/// REGDB_E_WRITEREGDB when the file cannot be read or replaced.
 HRESULT RegisterClasses(std::span<const ClassEntry> classes,
                         const std::filesystem::path& server) noexcept;
 
-// Removes classes from the registry; those that are not in it do no harm.
+/// Removes classes from the registry; those that are not in it do no harm.
 HRESULT UnregisterClasses(std::span<const CLSID> classes) noexcept;
 
-// Finds a class by its programmatic identifier, without regard to case.
+/// Finds a class by its programmatic identifier, without regard to case.
 std::optional<ClassLocation> LookUpProgId(std::string_view progId);
 
-// Finds a class by its identifier.
+/// Finds a class by its identifier.
 std::optional<ClassLocation> LookUpClsid(REFCLSID clsid);
 
 }  // namespace praxen::detail

@@ -1,5 +1,4 @@
 // Conversion of variants from one type to another.
-
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -24,7 +23,7 @@ struct Truth {
 };
 
 struct Currency {
-  std::int64_t tenThousandths;
+  int64_t tenThousandths;
 };
 
 struct Days {
@@ -32,33 +31,33 @@ struct Days {
 };
 
 // What a variant of a convertible type holds; empty is a value as well: 0, false and no text.
-using Value = std::variant<std::monostate, std::int64_t, std::uint64_t, float, double, Truth,
-                           Currency, Days, std::u16string_view>;
+using Value = std::variant<std::monostate, int64_t, uint64_t, float, double, Truth, Currency, Days,
+                           std::u16string_view>;
 
-constexpr std::int64_t kTenThousand = 10'000;
+constexpr int64_t kTenThousand = 10'000;
 
 std::optional<Value> ReadValue(const VARIANT& variant) {
   switch (variant.vt) {
     case VT_EMPTY:
       return Value();
     case VT_I1:
-      return std::int64_t{static_cast<signed char>(variant.cVal)};
+      return int64_t{static_cast<signed char>(variant.cVal)};
     case VT_I2:
-      return std::int64_t{variant.iVal};
+      return int64_t{variant.iVal};
     case VT_I4:
     case VT_INT:
-      return std::int64_t{variant.lVal};
+      return int64_t{variant.lVal};
     case VT_I8:
-      return std::int64_t{variant.llVal};
+      return int64_t{variant.llVal};
     case VT_UI1:
-      return std::uint64_t{variant.bVal};
+      return uint64_t{variant.bVal};
     case VT_UI2:
-      return std::uint64_t{variant.uiVal};
+      return uint64_t{variant.uiVal};
     case VT_UI4:
     case VT_UINT:
-      return std::uint64_t{variant.ulVal};
+      return uint64_t{variant.ulVal};
     case VT_UI8:
-      return std::uint64_t{variant.ullVal};
+      return uint64_t{variant.ullVal};
     case VT_R4:
       return variant.fltVal;
     case VT_R8:
@@ -77,7 +76,7 @@ std::optional<Value> ReadValue(const VARIANT& variant) {
 }
 
 // Converts to an integer that counts 1/unit, so that one conversion serves integers and currency.
-template <class T, std::int64_t unit = 1>
+template <class T, int64_t unit = 1>
 class ToInteger {
  public:
   using Result = T;
@@ -85,8 +84,8 @@ class ToInteger {
   explicit ToInteger(T& out) : out_(out) {}
 
   HRESULT operator()(std::monostate) const { return Store(0); }
-  HRESULT operator()(std::int64_t value) const { return Store(value); }
-  HRESULT operator()(std::uint64_t value) const { return Store(value); }
+  HRESULT operator()(int64_t value) const { return Store(value); }
+  HRESULT operator()(uint64_t value) const { return Store(value); }
   HRESULT operator()(float value) const { return Round(value); }
   HRESULT operator()(double value) const { return Round(value); }
   HRESULT operator()(Days days) const { return Round(days.value); }
@@ -102,10 +101,10 @@ class ToInteger {
       out_ = currency.tenThousandths;
       return S_OK;
     } else {
-      const std::int64_t whole = currency.tenThousandths / kTenThousand;
-      const std::int64_t rest = std::abs(currency.tenThousandths % kTenThousand);
+      const int64_t whole = currency.tenThousandths / kTenThousand;
+      const int64_t rest = std::abs(currency.tenThousandths % kTenThousand);
       const bool away = rest * 2 > kTenThousand || (rest * 2 == kTenThousand && whole % 2 != 0);
-      const std::int64_t step = currency.tenThousandths < 0 ? -1 : 1;
+      const int64_t step = currency.tenThousandths < 0 ? -1 : 1;
       return Store(whole + (away ? step : 0));
     }
   }
@@ -138,7 +137,7 @@ class ToInteger {
   T& out_;
 };
 
-using ToCurrency = ToInteger<std::int64_t, kTenThousand>;
+using ToCurrency = ToInteger<int64_t, kTenThousand>;
 
 template <class T>
 class ToRealNumber {
@@ -245,8 +244,8 @@ class ToText {
   ToText(BSTR& out, USHORT flags) : out_(out), flags_(flags) {}
 
   HRESULT operator()(std::monostate) const { return Store(""); }
-  HRESULT operator()(std::int64_t value) const { return Store(std::to_string(value)); }
-  HRESULT operator()(std::uint64_t value) const { return Store(std::to_string(value)); }
+  HRESULT operator()(int64_t value) const { return Store(std::to_string(value)); }
+  HRESULT operator()(uint64_t value) const { return Store(std::to_string(value)); }
   HRESULT operator()(float value) const { return Store(FormatReal(value, 7)); }
   HRESULT operator()(double value) const { return Store(FormatReal(value, 15)); }
   HRESULT operator()(Days) const { return DISP_E_TYPEMISMATCH; }
@@ -284,23 +283,23 @@ HRESULT Fill(Field& field, const Value& value) {
 HRESULT StoreValue(const Value& value, USHORT flags, VARTYPE type, VARIANT& out) {
   switch (type) {
     case VT_I1:
-      return Fill<ToInteger<std::int8_t>>(out.cVal, value);
+      return Fill<ToInteger<int8_t>>(out.cVal, value);
     case VT_I2:
-      return Fill<ToInteger<std::int16_t>>(out.iVal, value);
+      return Fill<ToInteger<int16_t>>(out.iVal, value);
     case VT_I4:
     case VT_INT:
-      return Fill<ToInteger<std::int32_t>>(out.lVal, value);
+      return Fill<ToInteger<int32_t>>(out.lVal, value);
     case VT_I8:
-      return Fill<ToInteger<std::int64_t>>(out.llVal, value);
+      return Fill<ToInteger<int64_t>>(out.llVal, value);
     case VT_UI1:
-      return Fill<ToInteger<std::uint8_t>>(out.bVal, value);
+      return Fill<ToInteger<uint8_t>>(out.bVal, value);
     case VT_UI2:
-      return Fill<ToInteger<std::uint16_t>>(out.uiVal, value);
+      return Fill<ToInteger<uint16_t>>(out.uiVal, value);
     case VT_UI4:
     case VT_UINT:
-      return Fill<ToInteger<std::uint32_t>>(out.ulVal, value);
+      return Fill<ToInteger<uint32_t>>(out.ulVal, value);
     case VT_UI8:
-      return Fill<ToInteger<std::uint64_t>>(out.ullVal, value);
+      return Fill<ToInteger<uint64_t>>(out.ullVal, value);
     case VT_R4:
       return Fill<ToRealNumber<float>>(out.fltVal, value);
     case VT_R8:

@@ -6,8 +6,8 @@
 
 namespace praxen {
 
-// Creates an object by the programmatic identifier of its class, such as u"Library.Class"; the
-// caller owns it. On Windows the calling thread must have entered an apartment before.
+/// Creates an object by the programmatic identifier of its class, such as u"Library.Class"; the
+/// caller owns it. On Windows the calling thread must have entered an apartment before.
 HRESULT CreateObject(const char16_t* progId, IDispatch** object) noexcept;
 
 }  // namespace praxen

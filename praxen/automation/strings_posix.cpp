@@ -1,5 +1,4 @@
 // The length-prefixed texts and the shared memory of automation.
-
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
@@ -11,25 +10,24 @@
 namespace {
 
 // The length stands in the last four bytes before the text; the rest keeps the text aligned.
-constexpr std::size_t kHeaderSize = 8;
-constexpr std::size_t kLengthSize = sizeof(std::uint32_t);
-constexpr std::size_t kMaxBytes =
-    std::numeric_limits<UINT>::max() - kHeaderSize - sizeof(OLECHAR) - 1;
+constexpr size_t kHeaderSize = 8;
+constexpr size_t kLengthSize = sizeof(uint32_t);
+constexpr size_t kMaxBytes = std::numeric_limits<UINT>::max() - kHeaderSize - sizeof(OLECHAR) - 1;
 
 char* BytesOf(BSTR text) { return reinterpret_cast<char*>(text); }
 
 // Text of so many bytes, not yet filled but terminated; an odd count is terminated all the same.
-BSTR Allocate(std::size_t bytes) {
+BSTR Allocate(size_t bytes) {
   if (bytes > kMaxBytes) return nullptr;
   char* const block = static_cast<char*>(std::malloc(kHeaderSize + bytes + sizeof(OLECHAR)));
   if (block == nullptr) return nullptr;
-  const auto length = static_cast<std::uint32_t>(bytes);
+  const auto length = static_cast<uint32_t>(bytes);
   std::memcpy(block + kHeaderSize - kLengthSize, &length, kLengthSize);
   std::memset(block + kHeaderSize + bytes, 0, sizeof(OLECHAR));
   return reinterpret_cast<BSTR>(block + kHeaderSize);
 }
 
-BSTR CopyBytes(const void* source, std::size_t bytes) {
+BSTR CopyBytes(const void* source, size_t bytes) {
   const BSTR text = Allocate(bytes);
   if (text == nullptr) return nullptr;
   if (source != nullptr) {
@@ -55,7 +53,7 @@ BSTR SysAllocString(const OLECHAR* text) noexcept {
 }
 
 BSTR SysAllocStringLen(const OLECHAR* text, UINT length) noexcept {
-  return CopyBytes(text, std::size_t{length} * sizeof(OLECHAR));
+  return CopyBytes(text, size_t{length} * sizeof(OLECHAR));
 }
 
 BSTR SysAllocStringByteLen(const char* bytes, UINT length) noexcept {
@@ -86,11 +84,11 @@ UINT SysStringLen(BSTR text) noexcept {
 
 UINT SysStringByteLen(BSTR text) noexcept {
   if (text == nullptr) return 0;
-  std::uint32_t length = 0;
+  uint32_t length = 0;
   std::memcpy(&length, BytesOf(text) - kLengthSize, kLengthSize);
   return length;
 }
 
-LPVOID CoTaskMemAlloc(std::size_t size) noexcept { return std::malloc(size); }
+LPVOID CoTaskMemAlloc(size_t size) noexcept { return std::malloc(size); }
 
 void CoTaskMemFree(LPVOID memory) noexcept { std::free(memory); }

@@ -1,5 +1,4 @@
 // Owners of automation texts, variants and interface pointers, for both systems.
-
 #ifndef PRAXEN_AUTOMATION_VALUES_H_
 #define PRAXEN_AUTOMATION_VALUES_H_
 
@@ -18,12 +17,12 @@ namespace praxen::detail {
 
 static_assert(sizeof(OLECHAR) == sizeof(char16_t));
 
-// The characters of an automation text, which stay the text's; empty for null.
+/// The characters of an automation text, which stay the text's; empty for null.
 inline std::u16string_view ViewOf(BSTR text) {
   return {reinterpret_cast<const char16_t*>(text), SysStringLen(text)};
 }
 
-// Allocates an automation text; std::bad_alloc when memory is short.
+/// Allocates an automation text; std::bad_alloc when memory is short.
 inline BSTR AllocateBstr(std::u16string_view text) {
   if (text.size() > std::numeric_limits<UINT>::max()) throw std::bad_alloc();
   const BSTR copy = SysAllocStringLen(nullptr, static_cast<UINT>(text.size()));
@@ -36,7 +35,7 @@ inline BSTR AllocateBstr(std::u16string_view text) {
 
 namespace praxen {
 
-// An owned automation text.
+/// An owned automation text.
 class BStr {
  public:
   BStr() = default;
@@ -51,7 +50,7 @@ class BStr {
     return *this;
   }
 
-  // Takes over a text that the caller owned.
+  /// Takes over a text that the caller owned.
   static BStr Attach(BSTR text) noexcept {
     BStr owner;
     owner.text_ = text;
@@ -61,10 +60,10 @@ class BStr {
   BSTR Get() const noexcept { return text_; }
   std::u16string_view View() const noexcept { return detail::ViewOf(text_); }
 
-  // Hands the text over to the caller.
+  /// Hands the text over to the caller.
   BSTR Detach() noexcept { return std::exchange(text_, nullptr); }
 
-  // Where a call stores a text, which is then owned; the text held before is freed.
+  /// Where a call stores a text, which is then owned; the text held before is freed.
   BSTR* Receive() noexcept {
     SysFreeString(Detach());
     return &text_;
@@ -74,7 +73,7 @@ class BStr {
   BSTR text_ = nullptr;
 };
 
-// An owned variant of the same layout, so that arrays of it serve as arguments.
+/// An owned variant of the same layout, so that arrays of it serve as arguments.
 class Variant : public VARIANT {
  public:
   Variant() noexcept { VariantInit(this); }
@@ -87,7 +86,7 @@ class Variant : public VARIANT {
   explicit Variant(const char16_t* text) : Variant(std::u16string_view(text)) {}
 
   template <std::signed_integral T>
-  requires(sizeof(T) <= sizeof(std::int32_t)) explicit Variant(T value) noexcept : Variant() {
+  requires(sizeof(T) <= sizeof(int32_t)) explicit Variant(T value) noexcept : Variant() {
     lVal = value;
     vt = VT_I4;
   }
@@ -103,15 +102,15 @@ class Variant : public VARIANT {
     vt = VT_BOOL;
   }
 
-  // Shares the object, which may be null.
+  /// Shares the object, which may be null.
   explicit Variant(IDispatch* object) noexcept : Variant() {
     if (object != nullptr) object->AddRef();
     pdispVal = object;
     vt = VT_DISPATCH;
   }
 
-  // Copies any variant; std::bad_alloc when memory is short, std::invalid_argument for a type that
-  // cannot be copied.
+  /// Copies any variant; std::bad_alloc when memory is short, std::invalid_argument for a type that
+  /// cannot be copied.
   explicit Variant(const VARIANT& other) : Variant() {
     // Not every declaration of the function calls its source constant.
     const HRESULT result = VariantCopy(this, const_cast<VARIANT*>(&other));
@@ -128,25 +127,25 @@ class Variant : public VARIANT {
     return *this;
   }
 
-  // Hands the value over to the caller.
+  /// Hands the value over to the caller.
   VARIANT Detach() noexcept {
     const VARIANT value = *this;
     VariantInit(this);
     return value;
   }
 
-  // Where a call stores a value, which is then owned; the value held before is freed.
+  /// Where a call stores a value, which is then owned; the value held before is freed.
   VARIANT* Receive() noexcept {
     VariantClear(this);
     return this;
   }
 
-  // Converts the value in place; unchanged when that fails.
+  /// Converts the value in place; unchanged when that fails.
   HRESULT ChangeType(VARTYPE type, USHORT flags = 0) noexcept {
     return VariantChangeType(this, this, flags, type);
   }
 
-  // The text, which stays the variant's; empty when the variant holds none.
+  /// The text, which stays the variant's; empty when the variant holds none.
   std::u16string_view View() const noexcept {
     return vt == VT_BSTR ? detail::ViewOf(bstrVal) : std::u16string_view();
   }
@@ -154,13 +153,13 @@ class Variant : public VARIANT {
 
 static_assert(sizeof(Variant) == sizeof(VARIANT));
 
-// An owned interface pointer, which may be null.
+/// An owned interface pointer, which may be null.
 template <class I>
 class ComPointer {
  public:
   ComPointer() = default;
 
-  // Shares the object.
+  /// Shares the object.
   explicit ComPointer(I* pointer) noexcept : pointer_(pointer) {
     if (pointer_ != nullptr) pointer_->AddRef();
   }
@@ -177,7 +176,7 @@ class ComPointer {
     return *this;
   }
 
-  // Takes over a count that the caller held.
+  /// Takes over a count that the caller held.
   static ComPointer Attach(I* pointer) noexcept {
     ComPointer owner;
     owner.pointer_ = pointer;
@@ -189,16 +188,16 @@ class ComPointer {
   I& operator*() const noexcept { return *pointer_; }
   explicit operator bool() const noexcept { return pointer_ != nullptr; }
 
-  // Hands the count over to the caller.
+  /// Hands the count over to the caller.
   I* Detach() noexcept { return std::exchange(pointer_, nullptr); }
 
-  // Where a call stores a pointer, which is then owned; the pointer held before is released.
+  /// Where a call stores a pointer, which is then owned; the pointer held before is released.
   I** Receive() noexcept {
     *this = ComPointer();
     return &pointer_;
   }
 
-  // Asks the object for another interface; null when the object lacks it.
+  /// Asks the object for another interface; null when the object lacks it.
   template <class J>
   ComPointer<J> As(REFIID iid) const noexcept {
     void* other = nullptr;

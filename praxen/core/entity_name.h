@@ -18,8 +18,8 @@ constexpr std::string_view TypeSignature() {
   return __PRETTY_FUNCTION__;
 }
 
-// What stands between "= " and the closing bracket is the entity with its scopes; GCC appends
-// "; std::string_view = …", and writes some members with a blank or parentheses around them.
+/// What stands between "= " and the closing bracket is the entity with its scopes; GCC appends
+/// "; std::string_view = …", and writes some members with a blank or parentheses around them.
 constexpr std::string_view LastName(std::string_view signature) {
   const size_t start = signature.find("= ") + 2;
   signature = signature.substr(start, signature.find_first_of(";]", start) - start);

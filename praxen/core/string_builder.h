@@ -57,7 +57,7 @@ class CStringBuilder {
     length_ += count;
     return end;
   }
-  /// Makes room for `count` characters behind the text and returns its start.
+  /// Makes room for `count` characters after the text and returns its start.
   char16_t* Reserve(size_t count) {
     if (count > room_ - length_) [[unlikely]]
       MakeRoom(count);
@@ -85,10 +85,10 @@ class CStringBuilder {
 
   TextBuffer storage_;
   size_t length_ = 0;  // in characters, as the room
-  // How far the text may grow before the storage or the capacity has to; no further than the length
-  // while a text may stand in the storage.
+  /// How far the text may grow before the storage or the capacity has to; no further than the
+  /// length while a text may stand in the storage.
   size_t room_ = 0;
-  // Whether the text handed out last filled little of the storage.
+  /// Whether the text handed out last filled little of the storage.
   bool was_much_shorter_ = false;
   int32_t capacity_ = 0;
   int32_t growth_step_ = 2048;

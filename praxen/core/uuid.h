@@ -26,7 +26,7 @@ namespace uuid_internal {
 
 using Bytes = std::array<uint8_t, 16>;
 
-// The sixteen bytes in the order in which the text form shows them.
+/// The sixteen bytes in the order in which the text form shows them.
 constexpr Bytes ToBytes(const Uuid& uuid) {
   Bytes bytes = {};
   for (size_t i = 0; i < 4; ++i) {
@@ -49,7 +49,7 @@ constexpr Uuid FromBytes(const Bytes& bytes) {
   return uuid;
 }
 
-// SHA-1 over bytes that are added one by one.
+/// SHA-1 over bytes that are added one by one.
 class Sha1 {
  public:
   constexpr void Add(uint8_t byte) {
@@ -58,7 +58,7 @@ class Sha1 {
     if (used_ == block_.size()) AbsorbBlock();
   }
 
-  // The first sixteen of the twenty bytes of the digest; nothing may be added afterwards.
+  /// The first sixteen of the twenty bytes of the digest; nothing may be added afterwards.
   constexpr Bytes Finish() {
     const uint64_t bits = length_ * 8;
     Add(0x80);

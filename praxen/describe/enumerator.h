@@ -17,7 +17,7 @@ class Enumerator final : public Object {
   explicit Enumerator(const Ref<Object>& list);
   Enumerator(const Enumerator& other);
 
-  /// The next element; an empty reference, and `atEnd` true, behind the last.
+  /// The next element; an empty reference, and `atEnd` true, after the last.
   Ref<Object> Next();
   bool atEnd() const noexcept { return next_ == elements_.size(); }
   /// Passes over `count` elements; false when there are fewer.

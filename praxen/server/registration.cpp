@@ -2,6 +2,7 @@
 #include "praxen/server/registration.h"
 
 #include "praxen/automation/guid.h"
+#include "praxen/core/ascii.h"
 #include "praxen/core/text.h"
 #include "praxen/describe/identifiers.h"
 #include "praxen/factory/classes.h"
@@ -30,8 +31,8 @@ using Values = std::vector<RegistryValue>;
 
 void AppendClass(Values& values, const ClassDescription& description, const std::u16string& file) {
   const std::string key = ClassKey(description);
-  const std::u16string name = FromUtf8(ProgId(description));
-  const std::u16string id = FromUtf8(GuidToText(ClassId(description)));
+  const std::u16string name = WidenAscii(ProgId(description));
+  const std::u16string id = WidenAscii(GuidToText(ClassId(description)));
   values.push_back({ProgId(description), "", name});
   values.push_back({ProgId(description) + "\\CLSID", "", id});
   values.push_back({key, "", name});
@@ -39,22 +40,22 @@ void AppendClass(Values& values, const ClassDescription& description, const std:
   values.push_back({key + "\\InprocServer32", "ThreadingModel", u"Apartment"});
   values.push_back({key + "\\ProgID", "", name});
   values.push_back({key + "\\Programmable", "", u""});
-  values.push_back({key + "\\TypeLib", "", FromUtf8(GuidToText(TypeLibraryId()))});
-  values.push_back({key + "\\Version", "", FromUtf8(kTypeLibraryVersion)});
+  values.push_back({key + "\\TypeLib", "", WidenAscii(GuidToText(TypeLibraryId()))});
+  values.push_back({key + "\\Version", "", WidenAscii(kTypeLibraryVersion)});
 }
 
 // Interfaces cross apartments by the marshaler that works from the type library.
 void AppendInterface(Values& values, const ClassDescription& description) {
   const std::string key = InterfaceKey(description);
-  values.push_back({key, "", FromUtf8(InterfaceName(description))});
-  values.push_back({key + "\\ProxyStubClsid32", "", FromUtf8(kAutomationProxy)});
-  values.push_back({key + "\\TypeLib", "", FromUtf8(GuidToText(TypeLibraryId()))});
+  values.push_back({key, "", WidenAscii(InterfaceName(description))});
+  values.push_back({key + "\\ProxyStubClsid32", "", WidenAscii(kAutomationProxy)});
+  values.push_back({key + "\\TypeLib", "", WidenAscii(GuidToText(TypeLibraryId()))});
   values.push_back({key + "\\TypeLib", "Version", std::u16string(kVersionInRegistry)});
 }
 
 void AppendTypeLibrary(Values& values, const std::u16string& file) {
   const std::string key = TypeLibraryKey();
-  values.push_back({key, "", FromUtf8(kTypeLibraryHelp)});
+  values.push_back({key, "", WidenAscii(kTypeLibraryHelp)});
   values.push_back({key + "\\0\\win64", "", file});
   values.push_back({key + "\\FLAGS", "", u"0"});
   values.push_back({key + "\\HELPDIR", "", file.substr(0, file.find_last_of(u'\\'))});

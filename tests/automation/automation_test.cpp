@@ -1,5 +1,4 @@
 // The automation types: layout, texts, variants and their conversions, error objects.
-
 #include "praxen/automation/automation.h"
 
 #include <gtest/gtest.h>

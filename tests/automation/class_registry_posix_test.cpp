@@ -1,5 +1,4 @@
 // The registry of classes, in files as people and programs leave them.
-
 #include "praxen/automation/class_registry_posix.h"
 #include "praxen/automation/create_object.h"
 

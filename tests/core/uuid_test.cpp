@@ -1,5 +1,4 @@
 // Identifiers derived from names, and their text form.
-
 #include "praxen/core/uuid.h"
 
 #include <gtest/gtest.h>
