@@ -109,5 +109,5 @@ int main(int argc, char** argv) {
     std::cerr << "usage: praxen_closed_schema ROOT FILE\n";
     return 2;
   }
-  std::ofstream(argv[2]) << praxen::ClosedSchema(praxen::FromUtf8(argv[1]));
+  std::ofstream(argv[2]) << praxen::detail::ClosedSchema(praxen::FromUtf8(argv[1]));
 }

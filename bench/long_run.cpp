@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "bench/documents.h"
+#include "praxen/core/counters.h"
 
 namespace praxen::detail::bench {
 namespace {
