@@ -69,12 +69,8 @@ class CommandLine : public testing::Test {
 // The elements of all classes that the factory reads.
 std::set<std::string> DocumentElements() {
   std::set<std::string> elements;
-  for (const Member& member : Describe<ObjectFactory>().members) {
-    if (!member.name.starts_with("Deserialize") || member.type.object().isKind) continue;
-    elements.insert(ToUtf8(member.type.object().layout().element));
-  }
-  for (const auto* const language : {"ST", "LD", "FBD", "FD", "IL", "SFC"}) {
-    elements.insert(std::string(language) + "CodeBlock");
+  for (const ClassDescription* const description : DocumentClasses()) {
+    elements.insert(ToUtf8(description->layout().element));
   }
   return elements;
 }
@@ -258,9 +254,10 @@ TEST_F(CommandLine, WrongUseIsToldFromBadDocuments) {
   const struct {
     std::string arguments;
     int exitCode;
-  } cases[] = {
-      {"", 2},     {"sample", 2}, {"sample pump", 2}, {"check", 2},
-      {"grow", 2}, {"--help", 0}, {"--version", 0},   {"sample task -o /no/such/folder/file", 1}};
+  } cases[] = {{"", 2},       {"sample", 2},    {"sample pump", 2},
+               {"check", 2},  {"grow", 2},
+
+               {"--help", 0}, {"--version", 0}, {"sample task -o /no/such/folder/file", 1}};
   for (const auto& given : cases) {
     const Outcome outcome = Run(given.arguments);
     EXPECT_EQ(outcome.exitCode, given.exitCode) << given.arguments;

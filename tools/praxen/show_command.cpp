@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "praxen/factory/read_document.h"
 #include "tools/praxen/documents.h"
 #include "tools/praxen/outline.h"
 #include "tools/praxen/terminal.h"
