@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 #include "tools/generate/schema.h"
 
@@ -30,8 +30,8 @@ void AddChild(Children& children, const Layout& layout, const Child& child) {
   }
   if (child.kind == ChildKind::Text) names.insert(child.name);
   if (!child.inner.empty()) children[child.name].insert(child.inner);
-  if (child.object == nullptr) return;
-  const Layout& held = child.object().layout();
+  if (!IsObject(child.type)) return;
+  const Layout& held = child.type.object().layout();
   if (child.kind == ChildKind::Items || held.container == Container::None) {
     AddElements(names, held);
   } else {

@@ -4,7 +4,7 @@
 
 #include "fuzz/promises.h"
 #include "fuzz/xml_mutation.h"
-#include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 #include "praxen/factory/deserialization.h"
 
@@ -38,7 +38,7 @@ void Read(std::string_view xml) {
   const Text document = praxen::FromUtf8(xml);
   const std::u16string name = RootName(xml);
   for (const praxen::detail::ClassDescription& description : praxen::detail::AllClasses()) {
-    if (description.create == nullptr || description.FindMember(u"Serialize") == nullptr) continue;
+    if (!praxen::describe::IsDocument(description)) continue;
     if (description.layout().element == name) ReadAs(description, document);
   }
 }

@@ -11,19 +11,26 @@
 #include "fuzz/object_pool.h"
 #include "fuzz/promises.h"
 #include "praxen/automation/values.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/xml/xml_string_writer.h"
+#include "tests/support/example.h"
 
 namespace {
 
+using praxen::AnyValue;
 using praxen::Object;
 using praxen::Ref;
 using praxen::Text;
 using praxen::Variant;
+using praxen::describe::EnumerationDescription;
+using praxen::describe::IsDocument;
+using praxen::describe::IsObject;
+using praxen::describe::Overloaded;
+using praxen::describe::ValueType;
+using praxen::describe::VisitType;
 using praxen::detail::FuzzInput;
 using praxen::detail::Member;
-using praxen::detail::ValueKind;
 using praxen::detail::Values;
-using praxen::detail::ValueType;
 
 constexpr int kMostCalls = 100;
 constexpr int kDepth = 7;
@@ -68,21 +75,22 @@ class Client {
     }
     // A call may have changed the setting.
     praxen::detail::SetIncludeCRLFInXML(true);
-    for (const Ref<Object>& object : pool_.objects()) FillRequired(*object);
+    // What a client must set before an object can be written.
+    for (const Ref<Object>& object : pool_.objects()) praxen::detail::FillRequired(*object);
     const size_t count = std::min(pool_.objects().size(), kMostDocuments);
     for (size_t i = 0; i < count; ++i) Hold(*pool_.objects()[i]);
   }
 
  private:
-  int32_t Integer(const ValueType& type) {
-    if (type.kind != ValueKind::Enumeration) {
-      return input_.OneIn(8) ? input_.Bits<int32_t>() : static_cast<int32_t>(input_.Below(12)) - 2;
-    }
+  int32_t Integer() {
+    return input_.OneIn(8) ? input_.Bits<int32_t>() : static_cast<int32_t>(input_.Below(12)) - 2;
+  }
+
+  int32_t Constant(const EnumerationDescription& enumeration) {
     if (values_ == Values::Arbitrary && input_.OneIn(4)) return input_.Bits<int32_t>();
-    const auto constants = type.enumeration->constants;
-    const auto& constant = constants[input_.Below(constants.size())];
+    const auto& constant = enumeration.constants[input_.Below(enumeration.constants.size())];
     // Two constants may share a text, which reads as the first of them.
-    return values_ == Values::Carried ? type.enumeration->FromText(constant.text) : constant.value;
+    return values_ == Values::Carried ? enumeration.FromText(constant.text) : constant.value;
   }
 
   Text String(std::string_view name) {
@@ -105,29 +113,27 @@ class Client {
   Variant Value(std::string_view name, const ValueType& type) {
     // Before so many branches end, memory does.
     if (name == "NrOfBranches") return Variant(static_cast<int32_t>(input_.Below(6)) - 1);
-    switch (type.kind) {
-      case ValueKind::Boolean:
-        return Variant(input_.OneIn(2));
-      case ValueKind::Integer:
-      case ValueKind::Enumeration:
-        return Variant(Integer(type));
-      case ValueKind::Double:
-        return Variant(Number(input_, values_));
-      case ValueKind::Any:
-        if (input_.OneIn(2)) return Variant(Number(input_, values_));
-        return Variant(String(name).view());
-      case ValueKind::Object:
-        return Reference(type.object());
-      default:
-        return Variant(String(name).view());
-    }
+    using std::type_identity;
+    return VisitType(
+        type, Overloaded{[&](type_identity<bool>) { return Variant(input_.OneIn(2)); },
+                         [&](type_identity<int32_t>) { return Variant(Integer()); },
+                         [&](type_identity<EnumerationDescription>) {
+                           return Variant(Constant(*type.enumeration));
+                         },
+                         [&](type_identity<double>) { return Variant(Number(input_, values_)); },
+                         [&](type_identity<AnyValue>) {
+                           return input_.OneIn(2) ? Variant(Number(input_, values_))
+                                                  : Variant(String(name).view());
+                         },
+                         [&](type_identity<Object>) { return Reference(type.object()); },
+                         [&](auto) { return Variant(String(name).view()); }});
   }
 
   // Gives properties values and lists elements, and goes on with the objects that these are.
   void Grow(Object& object, int depth) {
     for (const Member& member : object.description().members) {
       if (input_.empty()) return;
-      if (member.type.kind == ValueKind::Object) {
+      if (IsObject(member.type)) {
         const bool leads = member.storage != nullptr || member.name.starts_with("Add");
         if (leads && depth > 0 && input_.OneIn(2)) GrowResult(object, member, depth - 1);
       } else if (member.put != nullptr && input_.OneIn(2)) {
@@ -172,9 +178,8 @@ class Client {
     Variant value = Value(member.name, member.type);
     DISPID name = DISPID_PROPERTYPUT;
     DISPPARAMS parameters{&value, &name, 1, 1};
-    const bool isObject = member.type.kind == ValueKind::Object;
-    Invoke(object, member, isObject ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT, parameters,
-           nullptr);
+    Invoke(object, member, IsObject(member.type) ? DISPATCH_PROPERTYPUTREF : DISPATCH_PROPERTYPUT,
+           parameters, nullptr);
   }
 
   static void Invoke(Object& object, const Member& member, WORD flags, DISPPARAMS& parameters,
@@ -183,22 +188,10 @@ class Client {
                                                nullptr, nullptr);
   }
 
-  // What a client must set before an object can be written.
-  static void FillRequired(Object& object) {
-    if (object.description().layout == nullptr) return;
-    for (const praxen::detail::Attribute& attribute : object.description().layout().attributes) {
-      if (attribute.rule != praxen::detail::Rule::Required ||
-          attribute.type.kind != ValueKind::Text)
-        continue;
-      Text& text = *static_cast<Text*>(attribute.storage(object));
-      if (text.empty()) text = u"required";
-    }
-  }
-
   void Hold(Object& object) {
-    const bool isDocument = object.description().FindMember(u"Serialize") != nullptr;
-    if (isDocument && praxen::detail::IsSmall(object))
+    if (IsDocument(object.description()) && praxen::detail::IsSmall(object)) {
       praxen::detail::HoldRoundTrip(object, values_);
+    }
   }
 
   FuzzInput input_;

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "praxen/automation/values.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 #include "praxen/xml/xml_limits.h"
 
@@ -16,24 +17,18 @@ constexpr size_t kMostObjects = 100;
 constexpr size_t kMostRecent = 6;
 constexpr size_t kMostWritten = 3000;
 
-// The classes that clients can create and that stand for the class or kind.
+// The classes that clients can create and that stand for the class or kind, which may be used on
+// its own.
 std::vector<const ClassDescription*> ClassesFor(const ClassDescription& wanted) {
-  std::vector<const ClassDescription*> classes;
-  for (const ClassDescription& description : AllClasses()) {
-    if (description.create == nullptr) continue;
-    if (&description == &wanted || description.kind == &wanted) classes.push_back(&description);
-  }
+  std::vector<const ClassDescription*> classes = ClassesOf(wanted);
+  if (wanted.isKind) classes.push_back(&wanted);
+  std::erase_if(classes, [](const ClassDescription* found) { return found->create == nullptr; });
   return classes;
 }
 
-bool IsObjectProperty(const Member& member) {
-  return member.storage != nullptr && member.type.kind == ValueKind::Object;
-}
-
 void Clear(Object& object) {
-  const Variant nothing(static_cast<IDispatch*>(nullptr));
   for (const Member& member : object.description().members) {
-    if (IsObjectProperty(member)) member.type.fromVariant(member.storage(object), nothing);
+    if (IsKeptObject(member)) SetHeld(object, member, nullptr);
   }
   const Member* const remove = object.description().FindMember(u"Remove");
   if (object.elements() == nullptr || remove == nullptr) return;
@@ -52,14 +47,10 @@ bool Count(Object& object, size_t depth, size_t& left) {
   if (left == 0) return false;
   --left;
   for (const Member& member : object.description().members) {
-    if (!IsObjectProperty(member)) continue;
-    Variant held;
-    member.type.toVariant(member.storage(object), held);
-    const Ref<Object> inner = value_type::ObjectFromVariant(held, nullptr);
-    if (inner && !Count(*inner, depth + 1, left)) return false;
+    Object* const held = Held(object, member);
+    if (held != nullptr && !Count(*held, depth + 1, left)) return false;
   }
-  if (object.elements() == nullptr) return true;
-  return std::ranges::all_of(*object.elements(), [&](const Ref<Object>& element) {
+  return std::ranges::all_of(ElementsOf(object), [&](const Ref<Object>& element) {
     return !element || Count(*element, depth + 1, left);
   });
 }
@@ -73,7 +64,7 @@ IDispatch* AsDispatch(Object& object) {
 ObjectPool::ObjectPool(FuzzInput& input) {
   const auto classes = AllClasses();
   for (int i = 0; i < 3; ++i) {
-    const ClassDescription& description = classes[input.Below(classes.size())]();
+    const ClassDescription& description = classes[input.Below(classes.size())];
     if (description.create != nullptr) Create(description);
   }
 }

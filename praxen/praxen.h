@@ -4,6 +4,7 @@
 
 #include "praxen/core/error.h"
 #include "praxen/factory/object_factory.h"
+#include "praxen/factory/read_document.h"
 #include "praxen/model/maintenance.h"
 #include "praxen/model/model.h"
 

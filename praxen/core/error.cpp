@@ -30,6 +30,13 @@ Error InvalidXml(std::u16string_view reason, Place place) {
 
 Error WrongRootElement() { return {ObjectErrorCode(604), {}, u"Wrong root element"_text}; }
 
+Error WrongRootElement(std::u16string_view name) {
+  const Error error = WrongRootElement();
+  return {error.number(),
+          {},
+          error.description() + u": '" + name + u"' is no document of the exchange format"};
+}
+
 Error WrongElementName() { return {ObjectErrorCode(605), {}, u"Wrong element name"_text}; }
 
 Error NameConflict() {

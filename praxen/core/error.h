@@ -50,6 +50,8 @@ Error RequiredFieldsEmpty();
 Error InvalidXml(std::u16string_view reason, Place place);
 /// Object error 604: the document element is not the expected one.
 Error WrongRootElement();
+/// The same where documents of all classes are expected; `name` is that of the element.
+Error WrongRootElement(std::u16string_view name);
 /// Object error 605: a child element is not the expected one.
 Error WrongElementName();
 /// Object error 607: a project constant's name equals another or is a dotted prefix of one.

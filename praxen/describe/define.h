@@ -40,6 +40,7 @@ ClassFacts FactsOf() {
   facts.interfaceId = kInterfaceId;
   facts.members = Class::members();
   facts.head = DispatchHead<Object>();
+  facts.isSerializable = std::is_base_of_v<SerializableObject, Class>;
   if constexpr (KindClass<Class>) {
     facts.isKind = true;
     facts.kindHead = DispatchHead<Class>();

@@ -34,6 +34,8 @@ struct ClassFacts {
   /// The kind that the class implements besides its own interface.
   const ClassDescription* kind = nullptr;
   bool isKind = false;
+  /// Whether its objects write themselves as documents.
+  bool isSerializable = false;
   /// The first functions of the table: those of IUnknown and IDispatch.
   std::span<const void* const> head;
   /// The same for a kind's own interface, which is not the object's first.

@@ -19,6 +19,8 @@
 
 namespace praxen::describe {
 
+struct Member;
+
 /// When an attribute is written. All are read.
 enum class Rule : uint8_t {
   /// Always; the object cannot be written while it is empty.
@@ -36,7 +38,7 @@ struct Attribute {
   Rule rule = Rule::Always;
   ValueType type;
   void* (*storage)(Object& object) = nullptr;
-  /// The member that holds the value.
+  /// The data member that holds the value.
   std::string_view property;
   /// Reading leaves the value alone when the attribute is absent.
   bool readIfPresent = false;
@@ -45,6 +47,8 @@ struct Attribute {
 
   /// In bytes from the start of the object.
   std::ptrdiff_t offset = 0;
+  /// The published member of that property; null when it is not published.
+  const Member* member = nullptr;
   XmlName xmlName = nullptr;
   /// Whether the attribute is left out for the value that its absence stands for.
   bool canBeAbsent = false;
@@ -86,11 +90,8 @@ struct Child {
   std::u16string name = {};
   void* (*storage)(Object& object) = nullptr;
   std::string_view property = {};
-  /// The class of a list or an object.
-  const ClassDescription& (*object)() = nullptr;
-  /// The list or object that is held, or null; and the same, created when there is none.
-  Object* (*held)(Object& object) = nullptr;
-  Object& (*heldOrCreated)(Object& object) = nullptr;
+  /// Of the text, the list or the object; none of what the class writes itself.
+  ValueType type = {};
   /// A list that is written also when it is empty is left out here.
   bool leaveOutEmpty = false;
   /// A text is written also when it is empty.
@@ -114,8 +115,10 @@ struct Child {
 
   // Filled in before the layout is used.
 
-  /// Of a text: in bytes from the start of the object.
+  /// Of the text or the reference: in bytes from the start of the object.
   std::ptrdiff_t offset = 0;
+  /// The published member of that property; null when it is not published.
+  const Member* member = nullptr;
   /// The name of its element.
   XmlName xmlName = nullptr;
 };
@@ -154,13 +157,15 @@ struct Layout {
 inline void* ValueAt(Object& object, std::ptrdiff_t offset) noexcept {
   return reinterpret_cast<std::byte*>(&object) + offset;
 }
-/// The value of an attribute, or the text of a child, of an object of the layout's class.
+/// The value of an attribute, or the text or reference of a child, of an object of the layout's
+/// class.
 template <class Entry>
 void* ValueOf(const Entry& entry, Object& object) noexcept {
   return ValueAt(object, entry.offset);
 }
 
-/// Names the element and fills in what attributes hold in a new object.
+/// Names the element, joins attributes and children to the members of the class, and fills in what
+/// attributes hold in a new object.
 Layout CompleteLayout(Layout layout, std::u16string element, Object& created);
 
 /// The name of the element of a class: its `kElement` where it states one, else its own.
@@ -229,16 +234,10 @@ Child Make(ChildKind kind) {
   Child child{kind};
   child.storage = &Slots::Address;
   child.property = EntityName<Pointer>();
+  child.type = ValueTypeOf<typename Slots::Value>();
   if constexpr (ReferenceType<typename Slots::Value>) {
     using Held = typename RefTarget<typename Slots::Value>::type;
-    child.object = &Describe<Held>;
     child.elementName = &ElementName<Held>;
-    child.held = [](Object& object) -> Object* { return Slots::Storage(object).get(); };
-    child.heldOrCreated = [](Object& object) -> Object& {
-      Ref<Held>& held = Slots::Storage(object);
-      if (!held) held = New<Held>();
-      return *held;
-    };
   } else {
     child.name = WidenAscii(child.property);
   }

@@ -51,6 +51,10 @@ struct Member {
   void* (*storage)(Object& object) = nullptr;
   InvokeFunction invokeGet = nullptr;
   InvokeFunction invokePut = nullptr;
+  /// Of a property behind a pair of functions: copies its value from and into an object. The values
+  /// are of the property's type.
+  void (*readValue)(Object& object, void* value) = nullptr;
+  void (*writeValue)(Object& object, const void* value) = nullptr;
 };
 
 /// Members in interface order.
@@ -132,10 +136,19 @@ Member computed(std::string_view help, const std::vector<std::string_view>& para
 /// A property behind a pair of functions.
 template <auto Getter, auto Setter>
 Member accessors(std::string_view name, std::string_view help) {
+  using Getting = OperationSlots<MemberOperation<Getter>, 0>;
   using Setting = OperationSlots<MemberOperation<Setter>, 0>;
+  using Class = typename Getting::Class;
+  using Value = typename Getting::Result;
   Member member = member_detail::Make<MemberOperation<Getter>, 0>(name, help, {});
   member.put = Setting::Slots::Function();
   member.invokePut = &Setting::Slots::Invoke;
+  member.readValue = [](Object& object, void* value) {
+    *static_cast<Value*>(value) = MemberOperation<Getter>::Run(static_cast<Class&>(object));
+  };
+  member.writeValue = [](Object& object, const void* value) {
+    MemberOperation<Setter>::Run(static_cast<Class&>(object), *static_cast<const Value*>(value));
+  };
   return member;
 }
 

@@ -65,6 +65,10 @@ struct ValueType {
   void (*toVariant)(const void* value, tagVARIANT& variant) = nullptr;
   /// Converts as the platform does; throws `ArgumentError`, the value then unchanged.
   void (*fromVariant)(void* value, const tagVARIANT& variant) = nullptr;
+  /// Of a reference to an object: what it refers to, or null.
+  Object* (*held)(const void* reference) = nullptr;
+  /// Lets it refer to an object, or to none; raises `TypeMismatch` for one of another class.
+  void (*hold)(void* reference, Object* object) = nullptr;
 };
 
 template <class T>
@@ -153,17 +157,24 @@ constexpr ValueType MakeValueType() {
   } else {
     using Target = typename RefTarget<T>::type;
     constexpr bool kIsEnumerator = std::is_same_v<Target, Enumerator>;
-    return {kIsEnumerator ? ValueKind::Enumerator : ValueKind::Object, nullptr, &Describe<Target>,
-            [](const void* value, tagVARIANT& variant) {
-              constexpr auto store = kIsEnumerator ? EnumeratorToVariant : ObjectToVariant;
-              store(static_cast<const T*>(value)->get(), variant);
-            },
-            [](void* value, const tagVARIANT& variant) {
-              const Ref<Object> object = ObjectFromVariant(variant, kAdapt<Target>);
-              const Ref<Target> target = Cast<Target>(object);
-              if (object && !target) ThrowWrongClass(variant);
-              *static_cast<T*>(value) = target;
-            }};
+    return {
+        kIsEnumerator ? ValueKind::Enumerator : ValueKind::Object,
+        nullptr,
+        &Describe<Target>,
+        [](const void* value, tagVARIANT& variant) {
+          constexpr auto store = kIsEnumerator ? EnumeratorToVariant : ObjectToVariant;
+          store(static_cast<const T*>(value)->get(), variant);
+        },
+        [](void* value, const tagVARIANT& variant) {
+          const Ref<Object> object = ObjectFromVariant(variant, kAdapt<Target>);
+          const Ref<Target> target = Cast<Target>(object);
+          if (object && !target) ThrowWrongClass(variant);
+          *static_cast<T*>(value) = target;
+        },
+        [](const void* reference) -> Object* { return static_cast<const T*>(reference)->get(); },
+        [](void* reference, Object* object) {
+          *static_cast<T*>(reference) = RequireClass<Target>(object);
+        }};
   }
 }
 

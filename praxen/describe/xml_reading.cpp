@@ -4,6 +4,7 @@
 #include "praxen/core/error.h"
 #include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/describe/shared_texts.h"
 
 namespace praxen::describe {
@@ -24,21 +25,14 @@ Error MissingAttribute(const XmlNode& node, std::u16string_view name) {
 }
 
 void SetValue(const Attribute& attribute, void* value, std::u16string_view text) {
-  switch (attribute.type.kind) {
-    case ValueKind::Text:
-      return SetText(*static_cast<Text*>(value), text);
-    case ValueKind::Boolean:
-      *static_cast<bool*>(value) = TextToBoolean(text);
-      return;
-    case ValueKind::Enumeration:
-      *static_cast<int32_t*>(value) = attribute.type.enumeration->FromText(text);
-      return;
-    case ValueKind::Double:
-      *static_cast<double*>(value) = XMLTextToDouble(text);
-      return;
-    default:
-      *static_cast<int32_t*>(value) = TextToInteger(text);
-  }
+  VisitValue(attribute.type, value,
+             Overloaded{[&](Text& held) { SetText(held, text); },
+                        [&](bool& isTrue) { isTrue = TextToBoolean(text); },
+                        [&](const EnumerationValue<int32_t>& constant) {
+                          constant.number = constant.description.FromText(text);
+                        },
+                        [&](double& number) { number = XMLTextToDouble(text); },
+                        [&](int32_t& number) { number = TextToInteger(text); }});
 }
 
 void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& node) {
@@ -71,11 +65,11 @@ void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNod
       SetText(*static_cast<Text*>(ValueOf(child, object)), FirstText(parent));
       return;
     case ChildKind::Items:
-      ReadItems(*child.held(object), child.object().layout(), cursor);
+      ReadItems(*Held(object, child), child.type.object().layout(), cursor);
       return;
     case ChildKind::Unnamed:
       if (!cursor) return;
-      child.held(object)->ReadXML(cursor);
+      Held(object, child)->ReadXML(cursor);
       break;
     case ChildKind::Text:
       if (child.strict) ReadTextElement(cursor, child.name);
@@ -85,7 +79,7 @@ void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNod
     case ChildKind::List:
     case ChildKind::Object:
       if (!cursor || cursor.name() != child.xmlName) return;
-      child.heldOrCreated(object).ReadXML(cursor);
+      HeldOrCreated(object, child).ReadXML(cursor);
       break;
   }
   cursor = cursor.nextSibling();

@@ -8,6 +8,7 @@
 #include "praxen/core/error.h"
 #include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
 
 namespace praxen::describe {
 
@@ -18,39 +19,27 @@ const T& As(const void* value) {
   return *static_cast<const T*>(value);
 }
 
-std::ptrdiff_t OffsetIn(const Object& object, const void* value) {
-  return static_cast<const std::byte*>(value) - reinterpret_cast<const std::byte*>(&object);
-}
-
 // Whether the value is the one that absence stands for.
 bool IsAbsent(const Attribute& attribute, const void* value) {
   if (!attribute.canBeAbsent) return false;
-  switch (attribute.type.kind) {
-    case ValueKind::Text:
-      return As<Text>(value) == attribute.absentText;
-    case ValueKind::Boolean:
-      return As<bool>(value) == (attribute.absentNumber != 0);
-    case ValueKind::Double:
-      return NumberText(As<double>(value)) == attribute.absentText;
-    default:
-      return As<int32_t>(value) == attribute.absentNumber;
-  }
+  return VisitValue(
+      attribute.type, value,
+      Overloaded{[&](const Text& text) { return text == attribute.absentText; },
+                 [&](const bool& isTrue) { return isTrue == (attribute.absentNumber != 0); },
+                 [&](const double& number) { return NumberText(number) == attribute.absentText; },
+                 [&](const int32_t& number) { return number == attribute.absentNumber; }});
 }
 
 template <class Consumer>
 void WithText(const Attribute& attribute, const void* value, Consumer consume) {
-  switch (attribute.type.kind) {
-    case ValueKind::Text:
-      return consume(As<Text>(value).view());
-    case ValueKind::Boolean:
-      return consume(As<bool>(value) ? std::u16string_view(u"1") : std::u16string_view(u"0"));
-    case ValueKind::Enumeration:
-      return consume(attribute.type.enumeration->ToText(As<int32_t>(value)));
-    case ValueKind::Double:
-      return consume(NumberText(As<double>(value)));
-    default:
-      return consume(NumberText(As<int32_t>(value)));
-  }
+  VisitValue(attribute.type, value,
+             Overloaded{[&](const Text& text) { consume(text.view()); },
+                        [&](const bool& isTrue) { consume(isTrue ? u"1" : u"0"); },
+                        [&](const EnumerationValue<const int32_t>& constant) {
+                          consume(constant.description.ToText(constant.number));
+                        },
+                        [&](const double& number) { consume(NumberText(number)); },
+                        [&](const int32_t& number) { consume(NumberText(number)); }});
 }
 
 void RequireFields(Object& object, const Layout& layout) {
@@ -115,7 +104,7 @@ void WriteChild(Object& object, const Child& child, XMLStringWriter& writer) {
     default:
       break;
   }
-  Object* const held = child.held(object);
+  Object* const held = Held(object, child);
   if (held == nullptr) {
     if (child.kind == ChildKind::Object) return;
     ThrowMissingObject();
@@ -152,50 +141,6 @@ Text AttributeText(const Attribute& attribute, const void* value) {
   Text text;
   WithText(attribute, value, [&](std::u16string_view written) { text = written; });
   return text;
-}
-
-namespace {
-
-void CompleteAttribute(Attribute& attribute, Object& created) {
-  const void* const value = attribute.storage(created);
-  attribute.offset = OffsetIn(created, value);
-  attribute.xmlName = InternXmlName(attribute.name);
-  attribute.canBeAbsent = attribute.rule == Rule::Optional || attribute.rule == Rule::UnlessEmpty;
-  if (attribute.rule == Rule::UnlessEmpty) return;
-  attribute.absentText = AttributeText(attribute, value);
-  switch (attribute.type.kind) {
-    case ValueKind::Boolean:
-      attribute.absentNumber = As<bool>(value);
-      break;
-    case ValueKind::Integer:
-    case ValueKind::Enumeration:
-      attribute.absentNumber = As<int32_t>(value);
-      break;
-    default:
-      break;
-  }
-}
-
-}  // namespace
-
-Layout CompleteLayout(Layout layout, std::u16string element, Object& created) {
-  layout.element = std::move(element);
-  for (Attribute& attribute : layout.attributes) {
-    CompleteAttribute(attribute, created);
-    if (attribute.rule == Rule::Required && attribute.type.kind == ValueKind::Text) {
-      layout.requiredTexts.push_back(attribute.offset);
-    }
-  }
-  for (Child& child : layout.children) {
-    if (child.storage != nullptr) child.offset = OffsetIn(created, child.storage(created));
-    if (child.kind == ChildKind::List || child.kind == ChildKind::Items) {
-      child.leaveOutEmpty |= child.object().layout().container != Container::Always;
-    }
-    if (child.elementName != nullptr) child.name = child.elementName();
-    if (!child.name.empty()) child.xmlName = InternXmlName(child.name);
-  }
-  for (Choice& choice : layout.elements) choice.xmlName = InternXmlName(choice.elementName());
-  return layout;
 }
 
 }  // namespace praxen::describe

@@ -125,6 +125,15 @@ std::span<const std::reference_wrapper<const ClassDescription>> AllClasses() {
   return classes;
 }
 
+std::vector<const ClassDescription*> ClassesOf(const ClassDescription& wanted) {
+  if (!wanted.isKind) return {&wanted};
+  std::vector<const ClassDescription*> classes;
+  for (const ClassDescription& description : AllClasses()) {
+    if (description.kind == &wanted) classes.push_back(&description);
+  }
+  return classes;
+}
+
 const ClassDescription* FindClass(std::u16string_view name) {
   for (const ClassDescription& description : AllClasses()) {
     if (EqualsIgnoringCase(description.name, name)) return &description;

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "praxen/core/counters.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 #include "praxen/factory/deserialization.h"
 #include "praxen/praxen.h"
@@ -24,7 +25,7 @@ struct Step {
   const Choice* choice;
 
   const ClassDescription& target() const {
-    return child == nullptr ? choice->object() : child->object();
+    return child == nullptr ? choice->object() : child->type.object();
   }
 };
 using Path = std::vector<Step>;
@@ -32,8 +33,8 @@ using Path = std::vector<Step>;
 std::vector<Step> StepsFrom(const ClassDescription& description) {
   std::vector<Step> steps;
   if (description.layout == nullptr) return steps;
-  for (const Child& child : description.layout().children) {
-    if (child.object != nullptr) steps.push_back({&child, nullptr});
+  for (const Child& child : ChildrenOf(description)) {
+    if (IsObject(child.type)) steps.push_back({&child, nullptr});
   }
   for (const Choice& choice : description.layout().elements) steps.push_back({nullptr, &choice});
   return steps;
@@ -72,7 +73,7 @@ Ref<Object> NewObject(const ClassDescription& description) {
 }
 
 Object& Take(Object& object, const Step& step) {
-  if (step.child != nullptr) return step.child->heldOrCreated(object);
+  if (step.child != nullptr) return HeldOrCreated(object, *step.child);
   const Ref<Object> element = NewObject(step.target());
   object.Append(element);
   return *element;
@@ -158,7 +159,7 @@ TEST_P(Nesting, WithoutEndIsRefusedUntilTheClientEndsIt) {
     if (child == nullptr) {
       EXPECT_EQ(client::Call(holder, u"Remove", {Variant(1)}).result, S_OK);
     } else {
-      const Ref<Object> empty = child->object().create();
+      const Ref<Object> empty = child->type.object().create();
       const Variant other(HandleOf(*empty).Get());
       EXPECT_EQ(client::Put(holder, FromUtf8(child->property), other).result, S_OK);
     }

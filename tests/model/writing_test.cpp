@@ -1,6 +1,7 @@
 // What the classes write: omission rules, required fields and what a failure leaves.
 #include <gtest/gtest.h>
 
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
@@ -27,13 +28,12 @@ TEST(Writing, ADocumentHasItsExactText) {
 TEST(Writing, RequiredFieldsAreCheckedBeforeAnythingIsWritten) {
   int checked = 0;
   for (const ClassDescription& description : AllClasses()) {
-    if (description.layout == nullptr) continue;
-    for (const Attribute& attribute : description.layout().attributes) {
+    for (const Attribute& attribute : AttributesOf(description)) {
       if (attribute.rule != Rule::Required) continue;
       const Ref<Object> object = description.create();
       FillRequired(*object);
       EXPECT_EQ(ErrorOf([&] { Markup(*object); }), "none") << description.name;
-      *static_cast<Text*>(attribute.storage(*object)) = Text();
+      *static_cast<Text*>(ValueOf(attribute, *object)) = Text();
       EXPECT_EQ(ErrorOf([&] { Markup(*object); }), kRequired) << description.name;
       ++checked;
     }

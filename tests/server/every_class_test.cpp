@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "praxen/core/text.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 #include "praxen/server/registration.h"
 #include "tests/server/client.h"
@@ -9,31 +10,20 @@
 namespace praxen::detail::client {
 namespace {
 
-// A class whose objects can stand for the type: a creatable one, for a kind one that implements it.
-std::string_view ClassFor(const ClassDescription& type) {
-  if (type.create != nullptr) return type.name;
-  for (const ClassDescription* const description : CreatableClasses()) {
-    if (description->kind == &type) return description->name;
-  }
-  return {};
-}
-
 // A value that differs from every creation value of the type.
 Variant OtherValue(const ValueType& type, const Variant& value) {
-  switch (type.kind) {
-    case ValueKind::Boolean:
-      return Variant(value.boolVal == VARIANT_FALSE);
-    case ValueKind::Integer:
-      return Variant(value.lVal + 7);
-    case ValueKind::Enumeration:
-      return Variant(value.lVal == 0 ? 1 : 0);
-    case ValueKind::Double:
-      return Variant(value.dblVal + 0.5);
-    case ValueKind::Object:
-      return Variant(Create(ClassFor(type.object())).Get());
-    default:
-      return Variant(u"\u00E4 & <\u20AC>");
-  }
+  using std::type_identity;
+  return VisitType(
+      type, Overloaded{[&](type_identity<bool>) { return Variant(value.boolVal == VARIANT_FALSE); },
+                       [&](type_identity<int32_t>) { return Variant(value.lVal + 7); },
+                       [&](type_identity<EnumerationDescription>) {
+                         return Variant(value.lVal == 0 ? 1 : 0);
+                       },
+                       [&](type_identity<double>) { return Variant(value.dblVal + 0.5); },
+                       [&](type_identity<Object>) {
+                         return Variant(Create(ClassesOf(type.object()).front()->name).Get());
+                       },
+                       [](auto) { return Variant(u"\u00E4 & <\u20AC>"); }});
 }
 
 bool AreEqual(const Variant& left, const Variant& right) {

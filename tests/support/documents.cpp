@@ -6,6 +6,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/factory/classes.h"
 #include "praxen/factory/deserialization.h"
+#include "praxen/factory/read_document.h"
 #include "praxen/xml/xml_string_writer.h"
 
 namespace praxen::detail {
@@ -16,15 +17,6 @@ constexpr std::string_view kDeclaration = "<?xml version='1.0' encoding='UTF-16'
 constexpr std::string_view kNamespace = " xmlns='PraxenSchema3_0'";
 
 size_t EndOfName(std::string_view markup) { return markup.find_first_of(" />", 1); }
-
-const ClassDescription& ClassOf(std::u16string_view element) {
-  for (const ClassDescription& description : AllClasses()) {
-    if (description.layout != nullptr && description.layout().element == element) {
-      return description;
-    }
-  }
-  throw std::invalid_argument("no class for " + ToUtf8(element));
-}
 
 }  // namespace
 
@@ -49,12 +41,13 @@ std::string Markup(Object& object) {
 }
 
 std::string Rewritten(std::string_view markup, std::string_view className) {
-  const ClassDescription& description =
-      className.empty() ? ClassOf(FromUtf8(markup.substr(1, EndOfName(markup) - 1)))
-                        : *FindClass(FromUtf8(className));
+  const Text document = Document(markup);
   std::string written;
-  const std::string error =
-      ErrorOf([&] { written = Markup(*DeserializeObject(description, Document(markup))); });
+  const std::string error = ErrorOf([&] {
+    written =
+        Markup(className.empty() ? *ReadDocument(document)
+                                 : *DeserializeObject(*FindClass(FromUtf8(className)), document));
+  });
   return error == "none" ? written : error;
 }
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "praxen/core/enumerations.h"
-#include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/xml/xml_string_writer.h"
 
 namespace praxen::detail {
@@ -15,51 +15,34 @@ class Filler {
  public:
   void Fill(Object& object, int depth) {
     for (const Member& member : object.description().members) {
-      if (member.storage != nullptr && member.put != nullptr) Set(object, member, depth);
+      if (member.put != nullptr) Set(object, member, depth);
     }
     FillList(object, depth);
   }
 
  private:
   void Set(Object& object, const Member& member, int depth) {
-    void* const value = member.storage(object);
-    switch (member.type.kind) {
-      case ValueKind::Text:
-        *static_cast<Text*>(value) =
-            FromUtf8(std::string(member.name) + " " + std::to_string(++count_));
-        break;
-      case ValueKind::Boolean:
-        *static_cast<bool*>(value) = !*static_cast<bool*>(value);
-        break;
-      case ValueKind::Integer:
-        *static_cast<int32_t*>(value) = ++count_;
-        break;
-      case ValueKind::Double:
-        *static_cast<double*>(value) = ++count_ + 0.25;
-        break;
-      case ValueKind::Enumeration:
-        *static_cast<int32_t*>(value) = OtherConstant(member, *static_cast<int32_t*>(value));
-        break;
-      default:
-        break;
+    if (IsKeptValue(member)) return SetValue(object, member);
+    // What is in no element may lead back to where it came from.
+    if (ChildOf(object.description(), member) != nullptr) {
+      FillBelow(HeldOrCreated(object, member), depth);
     }
-    if (member.type.kind == ValueKind::Object) FillHeld(object, member, depth);
   }
 
-  static int32_t OtherConstant(const Member& member, int32_t value) {
-    const auto constants = member.type.enumeration->constants;
-    return std::ranges::find_if(
-               constants,
-               [&](const EnumerationConstant& constant) { return constant.value != value; })
-        ->value;
+  void SetValue(Object& object, const Member& member) {
+    ChangeProperty(
+        object, member,
+        Overloaded{[&](Text& value) {
+                     value = FromUtf8(std::string(member.name) + " " + std::to_string(++count_));
+                   },
+                   [](bool& value) { value = !value; }, [&](int32_t& value) { value = ++count_; },
+                   [&](double& value) { value = ++count_ + 0.25; },
+                   [](const EnumerationValue<int32_t>& value) { ChooseOther(value); }});
   }
 
-  void FillHeld(Object& object, const Member& member, int depth) {
-    if (object.description().layout == nullptr) return;
-    const auto& children = object.description().layout().children;
-    const auto child = std::ranges::find(children, member.name, &Child::property);
-    if (child == children.end()) return;
-    FillBelow(child->heldOrCreated(object), depth);
+  static void ChooseOther(const EnumerationValue<int32_t>& value) {
+    const auto isOther = [&](const EnumerationConstant& c) { return c.value != value.number; };
+    value.number = std::ranges::find_if(value.description.constants, isOther)->value;
   }
 
   // A list is on the level of its owner.
@@ -88,10 +71,13 @@ class Filler {
 void FillExample(Object& object, int depth) { Filler().Fill(object, depth); }
 
 void FillRequired(Object& object) {
-  if (object.description().layout == nullptr) return;
-  for (const Attribute& attribute : object.description().layout().attributes) {
+  for (const Attribute& attribute : AttributesOf(object.description())) {
     if (attribute.rule != Rule::Required) continue;
-    *static_cast<Text*>(attribute.storage(object)) = FromUtf8(attribute.property);
+    VisitValue(attribute.type, ValueOf(attribute, object),
+               Overloaded{[&](Text& text) {
+                            if (text.empty()) text = FromUtf8(attribute.property);
+                          },
+                          [](auto&&) {}});
   }
 }
 

@@ -13,7 +13,7 @@ namespace praxen::detail {
 /// `depth` levels below are filled too; deeper ones get only what writing requires.
 void FillExample(Object& object, int depth);
 
-/// Sets only what writing requires.
+/// Gives what writing requires a value where it has none.
 void FillRequired(Object& object);
 
 /// The element of an object as a document with LF line ends, whether or not it can serialize

@@ -69,12 +69,8 @@ class CommandLine : public testing::Test {
 // The elements of all classes that the factory reads.
 std::set<std::string> DocumentElements() {
   std::set<std::string> elements;
-  for (const Member& member : Describe<ObjectFactory>().members) {
-    if (!member.name.starts_with("Deserialize") || member.type.object().isKind) continue;
-    elements.insert(ToUtf8(member.type.object().layout().element));
-  }
-  for (const auto* const language : {"ST", "LD", "FBD", "FD", "IL", "SFC"}) {
-    elements.insert(std::string(language) + "CodeBlock");
+  for (const ClassDescription* const description : DocumentClasses()) {
+    elements.insert(ToUtf8(description->layout().element));
   }
   return elements;
 }
@@ -101,6 +97,7 @@ TEST_F(CommandLine, EveryFamilyHasASampleThatIsGood) {
     ASSERT_EQ(lines.size(), families.size());
     for (const std::string& line : lines) elements.insert(ElementOf(line));
     EXPECT_EQ(Run("show" + files).exitCode, 0);
+    EXPECT_EQ(LinesOf(Run("show --json" + files).out).size(), families.size());
   }
   EXPECT_EQ(elements, DocumentElements());
 }
@@ -213,6 +210,21 @@ TEST_F(CommandLine, ShowDrawsTheTreeOfAChart) {
   EXPECT_EQ(Run("show --depth 0 -", chart).out, "SFCCodeBlock Fill …\n");
 }
 
+TEST_F(CommandLine, ShowTellsTheWholeDocumentInOneLineOfJson) {
+  const std::string list =
+      "<MessageBucket xmlns='PraxenSchema3_0' NoOfErrors='1' NoOfWarnings='0'><Error ErrorNo='9' "
+      "Message='a&#10;b'><PosInfo Row='2' Col='0' FOUName='' POUName='' TabName='' ElementName='' "
+      "MessageType='SingleProgram' StartPos='0' EndPos='0' PageNo='0' Id=''/></Error>"
+      "</MessageBucket>";
+  const Outcome outcome = Run("show --json -", list);
+  EXPECT_EQ(outcome.out,
+            R"({"$class":"MessageBucket","NoOfErrors":1,"$elements":[{"$class":"ErrorMsg",)"
+            R"("ErrorNo":9,"Message":"a\nb","PosInfo":{"$class":"PosInfo","Row":2,)"
+            R"("MessageType":"SingleProgram"}}]})"
+            "\n");
+  EXPECT_EQ(outcome.err, "");
+}
+
 TEST_F(CommandLine, ControlCharactersDoNotReachTheTerminal) {
   const Outcome outcome = Run("show -",
                               "<Variable xmlns='PraxenSchema3_0' Name='a\xC2\x9B"
@@ -258,9 +270,16 @@ TEST_F(CommandLine, WrongUseIsToldFromBadDocuments) {
   const struct {
     std::string arguments;
     int exitCode;
-  } cases[] = {
-      {"", 2},     {"sample", 2}, {"sample pump", 2}, {"check", 2},
-      {"grow", 2}, {"--help", 0}, {"--version", 0},   {"sample task -o /no/such/folder/file", 1}};
+  } cases[] = {{"", 2},
+               {"sample", 2},
+               {"sample pump", 2},
+               {"check", 2},
+               {"grow", 2},
+               {"show --all -", 2},
+               {"show --json --depth 1 -", 2},
+               {"--help", 0},
+               {"--version", 0},
+               {"sample task -o /no/such/folder/file", 1}};
   for (const auto& given : cases) {
     const Outcome outcome = Run(given.arguments);
     EXPECT_EQ(outcome.exitCode, given.exitCode) << given.arguments;

@@ -1,9 +1,8 @@
 // The reference of the published classes.
 #include <algorithm>
 
-#include "praxen/automation/values.h"
 #include "praxen/core/enumerations.h"
-#include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 #include "tools/generate/documents.h"
 
@@ -14,64 +13,38 @@ namespace {
 std::string Code(std::string_view text) { return "`" + std::string(text) + "`"; }
 
 std::string TypeName(const ValueType& type) {
-  switch (type.kind) {
-    case ValueKind::Text:
-      return "text";
-    case ValueKind::Boolean:
-      return "boolean";
-    case ValueKind::Integer:
-      return "integer";
-    case ValueKind::Double:
-      return "double";
-    case ValueKind::Enumeration:
-      return Code(type.enumeration->name);
-    case ValueKind::Object:
-      return Code(type.object().name);
-    case ValueKind::Any:
-      return "any value";
-    case ValueKind::Enumerator:
-      return "enumerator";
-    case ValueKind::None:
-      break;
-  }
-  return "";
+  using std::string, std::type_identity;
+  return VisitType(
+      type, Overloaded{
+                [](type_identity<Text>) -> string { return "text"; },
+                [](type_identity<bool>) -> string { return "boolean"; },
+                [](type_identity<int32_t>) -> string { return "integer"; },
+                [](type_identity<double>) -> string { return "double"; },
+                [&](type_identity<EnumerationDescription>) { return Code(type.enumeration->name); },
+                [&](type_identity<Object>) { return Code(type.object().name); },
+                [](type_identity<AnyValue>) -> string { return "any value"; },
+                [](type_identity<Enumerator>) -> string { return "enumerator"; },
+                [](type_identity<void>) { return string(); }});
+}
+
+std::string NameOf(const EnumerationValue<const int32_t>& value) {
+  return Code(
+      std::ranges::find(value.description.constants, value.number, &EnumerationConstant::value)
+          ->name);
 }
 
 std::string CreationValue(const Member& member, Object& created) {
-  const void* const value = member.storage(created);
-  switch (member.type.kind) {
-    case ValueKind::Text: {
-      const Text& text = *static_cast<const Text*>(value);
-      return text.empty() ? "empty" : "\"" + ToUtf8(text) + "\"";
-    }
-    case ValueKind::Boolean:
-      return *static_cast<const bool*>(value) ? "true" : "false";
-    case ValueKind::Integer:
-      return std::to_string(*static_cast<const int32_t*>(value));
-    case ValueKind::Double:
-      return std::to_string(static_cast<int>(*static_cast<const double*>(value)));
-    case ValueKind::Enumeration: {
-      const auto constants = member.type.enumeration->constants;
-      const auto found = std::ranges::find(constants, *static_cast<const int32_t*>(value),
-                                           &EnumerationConstant::value);
-      return Code(found->name);
-    }
-    default:
-      break;
-  }
-  if (created.description().layout == nullptr) return "new";
-  const auto& children = created.description().layout().children;
-  const auto child = std::ranges::find(children, member.name, &Child::property);
-  return child != children.end() && child->held(created) == nullptr ? "none" : "new";
-}
-
-// The value of a property behind a pair of functions.
-std::string ComputedValue(const Member& member, Object& created) {
-  Variant value;
-  member.invokeGet(created, nullptr, value);
-  if (member.type.kind == ValueKind::Boolean)
-    return value.boolVal == VARIANT_FALSE ? "false" : "true";
-  return value.View().empty() ? "empty" : "\"" + ToUtf8(value.View()) + "\"";
+  if (IsKeptObject(member)) return Held(created, member) == nullptr ? "none" : "new";
+  std::string text;
+  VisitProperty(
+      created, member,
+      Overloaded{
+          [&](const Text& value) { text = value.empty() ? "empty" : "\"" + ToUtf8(value) + "\""; },
+          [&](const bool& value) { text = value ? "true" : "false"; },
+          [&](const int32_t& value) { text = std::to_string(value); },
+          [&](const double& value) { text = std::to_string(static_cast<int>(value)); },
+          [&](const EnumerationValue<const int32_t>& value) { text = NameOf(value); }});
+  return text;
 }
 
 std::string Signature(const Member& member) {
@@ -89,8 +62,7 @@ std::string Access(const Member& member, Object* created) {
   if (member.id == kEnumeratorId) return "enumerator";
   if (member.put == nullptr) return "read only";
   if (created == nullptr) return "";
-  return member.storage == nullptr ? ComputedValue(member, *created)
-                                   : CreationValue(member, *created);
+  return CreationValue(member, *created);
 }
 
 std::string Section(const ClassDescription& description) {

@@ -7,6 +7,7 @@
 #include "praxen/automation/guid.h"
 #include "praxen/describe/description.h"
 #include "praxen/describe/identifiers.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 
 namespace praxen::detail {
@@ -53,8 +54,7 @@ std::string Getter(const Member& member) {
 
 std::string Setter(const Member& member) {
   if (member.put == nullptr) return {};
-  const bool isObject = member.type.kind == ValueKind::Object;
-  return Function(member, isObject ? ", propputref" : ", propput",
+  return Function(member, IsObject(member.type) ? ", propputref" : ", propput",
                   "[in] " + TypeLibraryType(member.type) + " value");
 }
 
@@ -92,27 +92,19 @@ std::string EnumerationOf(const EnumerationDescription& enumeration) {
 }  // namespace
 
 std::string TypeLibraryType(const ValueType& type) {
-  switch (type.kind) {
-    case ValueKind::Text:
-      return "BSTR";
-    case ValueKind::Boolean:
-      return "VARIANT_BOOL";
-    case ValueKind::Integer:
-      return "LONG";
-    case ValueKind::Double:
-      return "double";
-    case ValueKind::Enumeration:
-      return std::string(type.enumeration->name);
-    case ValueKind::Object:
-      return InterfaceName(type.object()) + "*";
-    case ValueKind::Any:
-      return "VARIANT";
-    case ValueKind::Enumerator:
-      return "IUnknown*";
-    case ValueKind::None:
-      break;
-  }
-  return "void";
+  using std::string, std::type_identity;
+  return VisitType(
+      type, Overloaded{[](type_identity<Text>) -> string { return "BSTR"; },
+                       [](type_identity<bool>) -> string { return "VARIANT_BOOL"; },
+                       [](type_identity<int32_t>) -> string { return "LONG"; },
+                       [](type_identity<double>) -> string { return "double"; },
+                       [&](type_identity<EnumerationDescription>) {
+                         return string(type.enumeration->name);
+                       },
+                       [&](type_identity<Object>) { return InterfaceName(type.object()) + "*"; },
+                       [](type_identity<AnyValue>) -> string { return "VARIANT"; },
+                       [](type_identity<Enumerator>) -> string { return "IUnknown*"; },
+                       [](type_identity<void>) -> string { return "void"; }});
 }
 
 std::string GenerateTypeLibrary() {

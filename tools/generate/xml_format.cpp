@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <map>
 
-#include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
 #include "tests/support/example.h"
 #include "tools/generate/documents.h"
@@ -36,26 +36,25 @@ std::string DefaultOf(const Attribute& attribute) {
   return declaration.defaultValue->empty() ? "empty" : Code(ToUtf8(*declaration.defaultValue));
 }
 
-std::string Meaning(const Attribute& attribute) {
-  switch (attribute.type.kind) {
-    case ValueKind::Boolean:
-      return "`1` or `0`";
-    case ValueKind::Integer:
-      return "integer";
-    case ValueKind::Double:
-      return "decimal number";
-    case ValueKind::Enumeration: {
-      std::string texts;
-      for (const EnumerationConstant& constant : attribute.type.enumeration->constants) {
-        const std::string text = Code(ToUtf8(constant.text));
-        if (texts.find(text) != std::string::npos) continue;
-        texts += (texts.empty() ? "" : ", ") + text;
-      }
-      return texts;
-    }
-    default:
-      return "text";
+std::string TextsOf(const EnumerationDescription& enumeration) {
+  std::string texts;
+  for (const EnumerationConstant& constant : enumeration.constants) {
+    const std::string text = Code(ToUtf8(constant.text));
+    if (texts.find(text) != std::string::npos) continue;
+    texts += (texts.empty() ? "" : ", ") + text;
   }
+  return texts;
+}
+
+std::string Meaning(const ValueType& type) {
+  using std::string, std::type_identity;
+  return VisitType(
+      type,
+      Overloaded{[](type_identity<bool>) -> string { return "`1` or `0`"; },
+                 [](type_identity<int32_t>) -> string { return "integer"; },
+                 [](type_identity<double>) -> string { return "decimal number"; },
+                 [&](type_identity<EnumerationDescription>) { return TextsOf(*type.enumeration); },
+                 [](auto) -> string { return "text"; }});
 }
 
 std::string AttributeTable(const Layout& layout) {
@@ -64,7 +63,7 @@ std::string AttributeTable(const Layout& layout) {
       "\n| Attribute | Property | Value | Default | Written |\n| --- | --- | --- | --- | --- |\n";
   for (const Attribute& attribute : layout.attributes) {
     text += "| " + Code(ToUtf8(attribute.name)) + " | " + Code(std::string(attribute.property)) +
-            " | " + Meaning(attribute) + " | " + DefaultOf(attribute) + " | " +
+            " | " + Meaning(attribute.type) + " | " + DefaultOf(attribute) + " | " +
             WrittenWhen(attribute) + " |\n";
   }
   return text;
@@ -93,11 +92,11 @@ std::string DescribeChild(const Child& child) {
     case ChildKind::Content:
       return "the text of " + Code(std::string(child.property)) + ", as the element's own content";
     case ChildKind::Items:
-      return Elements(child.object().layout()) + ": the elements of " +
+      return Elements(child.type.object().layout()) + ": the elements of " +
              Code(std::string(child.property));
     case ChildKind::List: {
       const bool always =
-          child.object().layout().container == Container::Always && !child.leaveOutEmpty;
+          child.type.object().layout().container == Container::Always && !child.leaveOutEmpty;
       return Code(ToUtf8(child.name)) + ": the list " + Code(std::string(child.property)) +
              (always ? ", always" : ", unless empty");
     }

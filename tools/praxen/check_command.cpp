@@ -7,9 +7,10 @@
 #include <vector>
 
 #include "praxen/core/error.h"
+#include "praxen/describe/reflection.h"
+#include "praxen/factory/read_document.h"
 #include "tools/praxen/diagnostics.h"
 #include "tools/praxen/documents.h"
-#include "tools/praxen/object_tree.h"
 #include "tools/praxen/terminal.h"
 
 namespace praxen::detail {
@@ -35,6 +36,22 @@ bool KeepsItsText(const std::string& file, const Text& written) {
 std::string Counted(size_t count, const std::string& noun) {
   return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
+
+size_t CountObjects(Object& object);
+
+size_t CountBelow(Object& object) {
+  size_t count = 0;
+  for (const Child& child : ChildrenOf(object.description())) {
+    Object* const held = Held(object, child);
+    if (held == nullptr) continue;
+    count += held->elements() == nullptr ? CountObjects(*held) : CountBelow(*held);
+  }
+  for (const Ref<Object>& element : ElementsOf(object)) count += CountObjects(*element);
+  return count;
+}
+
+// Lists inside of others are not counted: they are there whether or not a document has them.
+size_t CountObjects(Object& object) { return 1 + CountBelow(object); }
 
 bool Check(const std::string& file, const Text& text) {
   const Ref<Object> object = ReadDocument(text);

@@ -1,4 +1,4 @@
-// Documents of any family: which root elements are read, and the work that commands do on files.
+// Documents in files, and the work that commands do on them.
 #ifndef PRAXEN_TOOLS_PRAXEN_DOCUMENTS_H_
 #define PRAXEN_TOOLS_PRAXEN_DOCUMENTS_H_
 
@@ -6,18 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "praxen/describe/description.h"
+#include "praxen/core/text.h"
 
 namespace praxen::detail {
-
-/// The classes that the factory reads from documents, in the order of its operations.
-const std::vector<const ClassDescription*>& DocumentClasses();
-
-/// Reads a document of any of them; raises what reading raises.
-///
-/// A root element that two classes have is taken for the one that knows the most of its attributes
-/// and children, and for the first of them when they know the same.
-Ref<Object> ReadDocument(const Text& text);
 
 /// Reads and decodes the files one after the other and calls `work` with each; prints what goes
 /// wrong and goes on. Returns the exit code: 0 when `work` was true of all files, else 1.

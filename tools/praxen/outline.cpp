@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
-#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -11,8 +10,7 @@
 #include <vector>
 
 #include "praxen/core/numbers.h"
-#include "praxen/describe/description.h"
-#include "tools/praxen/object_tree.h"
+#include "praxen/describe/reflection.h"
 
 namespace praxen::detail {
 
@@ -83,18 +81,16 @@ enum class Placement : uint8_t {
 
 bool IsTitle(const ClassDescription& description, const Member& member) {
   const auto isRequired = [](const Attribute& a) { return a.rule == Rule::Required; };
-  const std::vector<Attribute>& attributes = AttributesOf(description);
-  if (std::ranges::none_of(attributes, isRequired)) {
+  if (std::ranges::none_of(AttributesOf(description), isRequired)) {
     return &member == &description.members.front() && member.name.ends_with("Name");
   }
-  return std::ranges::any_of(
-      attributes, [&](const Attribute& a) { return isRequired(a) && a.property == member.name; });
+  const Attribute* const attribute = AttributeOf(description, member);
+  return attribute != nullptr && isRequired(*attribute);
 }
 
 bool IsContent(const ClassDescription& description, const Member& member) {
-  return std::ranges::any_of(ChildrenOf(description), [&](const Child& child) {
-    return child.kind == ChildKind::Content && child.property == member.name;
-  });
+  const Child* const child = ChildOf(description, member);
+  return child != nullptr && child->kind == ChildKind::Content;
 }
 
 bool IsCode(const Member& member) {
@@ -118,15 +114,14 @@ Placement PlacementOf(const ClassDescription& description, const Property& prope
 
 // The place of a property in its element, behind all others when the class writes it itself.
 size_t RankOf(const ClassDescription& description, const Property& property) {
-  const auto& attributes = AttributesOf(description);
-  const auto& children = ChildrenOf(description);
-  const std::string_view name = property.member->name;
-  const auto attribute = std::ranges::find(attributes, name, &Attribute::property);
-  const auto child = std::ranges::find(children, name, &Child::property);
-  const auto rank = attribute != attributes.end()
-                        ? attribute - attributes.begin()
-                        : std::ssize(attributes) + (child - children.begin());
-  return static_cast<size_t>(rank);
+  const std::span<const Attribute> attributes = AttributesOf(description);
+  const std::span<const Child> children = ChildrenOf(description);
+  if (const Attribute* const attribute = AttributeOf(description, *property.member)) {
+    return static_cast<size_t>(attribute - attributes.data());
+  }
+  const Child* const child = ChildOf(description, *property.member);
+  return attributes.size() +
+         (child == nullptr ? children.size() : static_cast<size_t>(child - children.data()));
 }
 
 // A line of the tree: an object with what a new one in its place would hold.
@@ -156,24 +151,16 @@ class OutlinePrinter {
   }
 
   Branch BranchOf(Object& object) {
-    return {std::string(object.description().name), object, CreatedLike(object)};
+    return {std::string(object.description().name), object, new_.Like(object)};
   }
 
  private:
-  // A new object of the class, made once.
-  Object& CreatedLike(Object& object) {
-    const ClassDescription& description = object.description();
-    Ref<Object>& created = created_[&description];
-    if (!created) created = description.create();
-    return *created;
-  }
-
   std::vector<Property> PropertiesOf(const Branch& branch) const {
     std::vector<Property> properties;
     for (const Member& member : branch.object.description().members) {
-      const std::optional<Value> value = ValueOf(branch.object, member);
-      if (!value) continue;
-      properties.push_back({&member, *value, value != ValueOf(branch.created, member)});
+      if (!IsKeptValue(member)) continue;
+      const Value value = ReadProperty(branch.object, member);
+      properties.push_back({&member, value, value != ReadProperty(branch.created, member)});
     }
     std::ranges::stable_sort(properties, {}, [&](const Property& property) {
       return RankOf(branch.object.description(), property);
@@ -198,15 +185,14 @@ class OutlinePrinter {
   }
 
   void AppendElements(std::vector<Branch>& branches, Object& list) {
-    if (list.elements() == nullptr) return;
-    for (const Ref<Object>& element : *list.elements()) branches.push_back(BranchOf(*element));
+    for (const Ref<Object>& element : ElementsOf(list)) branches.push_back(BranchOf(*element));
   }
 
   // Leaves out what a new owner holds as well.
   void AppendHeld(std::vector<Branch>& branches, const Child& child, Object& held,
                   Object* created) {
     const Branch branch{std::string(child.property), held,
-                        created == nullptr ? CreatedLike(held) : *created};
+                        created == nullptr ? new_.Like(held) : *created};
     if (created == nullptr || IsWorthShowing(branch)) branches.push_back(branch);
   }
 
@@ -254,7 +240,7 @@ class OutlinePrinter {
 
   const Colours& colours_;
   std::ostream& stream_;
-  std::map<const ClassDescription*, Ref<Object>> created_;
+  NewObjects new_;
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-// "praxen show", which prints documents as outlines.
+// "praxen show", which prints documents as outlines or as JSON.
 #ifndef PRAXEN_TOOLS_PRAXEN_SHOW_COMMAND_H_
 #define PRAXEN_TOOLS_PRAXEN_SHOW_COMMAND_H_
 

@@ -1,0 +1,67 @@
+// The completion of a layout: places in the object, names, members, and what a new object holds.
+#include "praxen/describe/layout.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
+#include "praxen/describe/xml_writing.h"
+
+namespace praxen::describe {
+
+namespace {
+
+std::ptrdiff_t OffsetIn(const Object& object, const void* value) {
+  return static_cast<const std::byte*>(value) - reinterpret_cast<const std::byte*>(&object);
+}
+
+// Null for what a class keeps without publishing it.
+const Member* PublishedMember(const Object& created, std::string_view property) {
+  const Members& members = created.description().members;
+  const auto found = std::ranges::find(members, property, &Member::name);
+  return found == members.end() ? nullptr : &*found;
+}
+
+void CompleteAttribute(Attribute& attribute, Object& created) {
+  const void* const value = attribute.storage(created);
+  attribute.offset = OffsetIn(created, value);
+  attribute.member = PublishedMember(created, attribute.property);
+  attribute.xmlName = InternXmlName(attribute.name);
+  attribute.canBeAbsent = attribute.rule == Rule::Optional || attribute.rule == Rule::UnlessEmpty;
+  if (attribute.rule == Rule::UnlessEmpty) return;
+  attribute.absentText = AttributeText(attribute, value);
+  VisitValue(attribute.type, value,
+             Overloaded{[](const Text&) {}, [](const double&) {},
+                        [&](const bool& isTrue) { attribute.absentNumber = isTrue; },
+                        [&](const int32_t& number) { attribute.absentNumber = number; }});
+}
+
+void CompleteChild(Child& child, Object& created) {
+  if (child.storage != nullptr) {
+    child.offset = OffsetIn(created, child.storage(created));
+    child.member = PublishedMember(created, child.property);
+  }
+  if (child.kind == ChildKind::List || child.kind == ChildKind::Items) {
+    child.leaveOutEmpty |= child.type.object().layout().container != Container::Always;
+  }
+  if (child.elementName != nullptr) child.name = child.elementName();
+  if (!child.name.empty()) child.xmlName = InternXmlName(child.name);
+}
+
+}  // namespace
+
+Layout CompleteLayout(Layout layout, std::u16string element, Object& created) {
+  layout.element = std::move(element);
+  for (Attribute& attribute : layout.attributes) {
+    CompleteAttribute(attribute, created);
+    if (attribute.rule == Rule::Required && attribute.type.kind == ValueKind::Text) {
+      layout.requiredTexts.push_back(attribute.offset);
+    }
+  }
+  for (Child& child : layout.children) CompleteChild(child, created);
+  for (Choice& choice : layout.elements) choice.xmlName = InternXmlName(choice.elementName());
+  return layout;
+}
+
+}  // namespace praxen::describe

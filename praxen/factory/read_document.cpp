@@ -1,0 +1,85 @@
+// The class that a document's root stands for.
+#include "praxen/factory/read_document.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "praxen/core/error.h"
+#include "praxen/describe/reflection.h"
+#include "praxen/factory/classes.h"
+#include "praxen/factory/object_factory.h"
+#include "praxen/factory/reading_frame.h"
+
+namespace praxen::detail {
+
+namespace {
+
+constexpr std::string_view kReadingPrefix = "Deserialize";
+
+std::vector<const ClassDescription*> FindDocumentClasses() {
+  std::vector<const ClassDescription*> classes;
+  for (const Member& member : Describe<ObjectFactory>().members) {
+    if (!member.name.starts_with(kReadingPrefix)) continue;
+    std::ranges::copy_if(ClassesOf(member.type.object()), std::back_inserter(classes),
+                         [](const ClassDescription* result) { return IsDocument(*result); });
+  }
+  return classes;
+}
+
+bool KnowsAttribute(const Layout& layout, std::u16string_view name) {
+  return name.starts_with(u"xmlns") ||
+         std::ranges::find(layout.attributes, name, &Attribute::name) != layout.attributes.end();
+}
+
+bool KnowsChild(const Layout& layout, std::u16string_view name) {
+  return std::ranges::find(layout.children, name, &Child::name) != layout.children.end();
+}
+
+// How much the document gives that a class has no place for.
+size_t CountUnknown(const Layout& layout, const XmlNode& root) {
+  size_t unknown = 0;
+  for (const XmlAttribute& attribute : root.attributes()) {
+    if (attribute.specified && !KnowsAttribute(layout, *attribute.name)) ++unknown;
+  }
+  for (XmlNode child = root.firstChild(); child; child = child.nextSibling()) {
+    if (!KnowsChild(layout, child.nodeName())) ++unknown;
+  }
+  return unknown;
+}
+
+const ClassDescription& ClassOf(const XmlNode& root) {
+  std::vector<const ClassDescription*> candidates;
+  for (const ClassDescription* const candidate : DocumentClasses()) {
+    if (candidate->layout().element == root.nodeName()) candidates.push_back(candidate);
+  }
+  if (candidates.empty()) throw WrongRootElement(root.nodeName()).At(root.place());
+  if (candidates.size() == 1) return *candidates.front();
+  return **std::ranges::min_element(candidates, {}, [&](const ClassDescription* candidate) {
+    return CountUnknown(candidate->layout(), root);
+  });
+}
+
+}  // namespace
+
+const std::vector<const ClassDescription*>& DocumentClasses() {
+  static const std::vector<const ClassDescription*> classes = FindDocumentClasses();
+  return classes;
+}
+
+}  // namespace praxen::detail
+
+namespace praxen {
+
+using namespace detail;
+
+Ref<Object> ReadDocument(const Text& text) {
+  const LoadedDocument document(text);
+  const ClassDescription& description = ClassOf(document.root());
+  // Raises an error when the root has the right name in a wrong namespace.
+  document.IsRoot(description.layout().element);
+  Ref<Object> object = description.create();
+  object->ReadXML(document.root());
+  return object;
+}
+
+}  // namespace praxen

@@ -1,0 +1,28 @@
+// Reading of a document whose class only its root tells.
+#ifndef PRAXEN_FACTORY_READ_DOCUMENT_H_
+#define PRAXEN_FACTORY_READ_DOCUMENT_H_
+
+#include <vector>
+
+#include "praxen/describe/object.h"
+
+namespace praxen {
+
+/// Reads a document of any class that the factory reads, as its root element tells.
+///
+/// A root element that two classes have is taken for the one that knows the most of its attributes
+/// and children, and for the first of them in the factory when they know the same. Raises
+/// `InvalidXml` for a text that does not parse or validate, `WrongRootElement`, which names the
+/// element, for the document of no class, and what reading its contents raises.
+Ref<Object> ReadDocument(const Text& text);
+
+}  // namespace praxen
+
+namespace praxen::detail {
+
+/// The classes that the factory reads from documents, in the order of its operations.
+const std::vector<const describe::ClassDescription*>& DocumentClasses();
+
+}  // namespace praxen::detail
+
+#endif  // PRAXEN_FACTORY_READ_DOCUMENT_H_
