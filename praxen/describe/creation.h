@@ -105,20 +105,6 @@ struct Extend<PreparedCreation<Class, Preparation, Steps...>, More...> {
 template <class Form, auto... More>
 using Extended = typename creation::Extend<Form, More...>::type;
 
-/// A creating operation as a member function `Run` of the list `List`, which appends the object.
-template <class List, class Form>
-struct Addition;
-template <class List, class Class, class Preparation, auto... Steps>
-struct Addition<List, PreparedCreation<Class, Preparation, Steps...>> {
-  using Form = PreparedCreation<Class, Preparation, Steps...>;
-
-  static Ref<Class> Run(List& list, typename Form::template Argument<Steps>... arguments) {
-    const Ref<Class> object = Form()(arguments...);
-    list.Add(object);
-    return object;
-  }
-};
-
 }  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_CREATION_H_

@@ -1,4 +1,6 @@
-// The instantiation of a class's description; included by the source file of its family only.
+// The definition of `Published`; included by the sources of the families only. Each of them is the
+// list of the family's classes: a line `template struct describe::Published<Class>;` makes the
+// description of the class and publishes it.
 #ifndef PRAXEN_DESCRIBE_DEFINE_H_
 #define PRAXEN_DESCRIBE_DEFINE_H_
 
@@ -6,6 +8,7 @@
 
 #include "praxen/describe/description.h"
 #include "praxen/describe/dispatch.h"
+#include "praxen/describe/foreign_kind.h"
 
 namespace praxen::describe {
 
@@ -44,11 +47,15 @@ ClassFacts FactsOf() {
   if constexpr (KindClass<Class>) {
     facts.isKind = true;
     facts.kindHead = DispatchHead<Class>();
+    facts.adapt = &Adapt<Class>;
   }
   if constexpr (std::is_default_constructible_v<Class>) {
     facts.create = [] { return Ref<Object>(New<Class>()); };
   }
-  if constexpr (HasLayout<Class>) facts.layout = &LayoutOf<Class>;
+  if constexpr (HasLayout<Class>) {
+    facts.layout = &LayoutOf<Class>;
+    StateRequired(facts.members, Class::layout());
+  }
   if constexpr (ImplementsKind<Class>) facts.kind = &Describe<typename Class::Kind>();
   return facts;
 }
@@ -56,10 +63,13 @@ ClassFacts FactsOf() {
 }  // namespace define_detail
 
 template <class Class>
-const ClassDescription& Describe() {
+const ClassDescription& Published<Class>::Description() {
   static const ClassDescription description(define_detail::FactsOf<Class>());
   return description;
 }
+
+template <class Class>
+const Publication Published<Class>::publication(&Published::Description);
 
 }  // namespace praxen::describe
 

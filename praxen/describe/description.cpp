@@ -2,12 +2,16 @@
 #include "praxen/describe/description.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 #include "praxen/core/ascii.h"
 
 namespace praxen::describe {
 
 namespace {
+
+constexpr std::string_view kRequired = "; required for writing";
 
 void AppendMembers(std::vector<const void*>& table, const Members& members) {
   for (const Member& member : members) {
@@ -17,7 +21,30 @@ void AppendMembers(std::vector<const void*>& table, const Members& members) {
   }
 }
 
+const Publication*& FirstPublication() noexcept {
+  static constinit const Publication* first = nullptr;
+  return first;
+}
+
 }  // namespace
+
+Publication::Publication(const ClassDescription& (*describe)()) noexcept
+    : describe_(describe), next_(std::exchange(FirstPublication(), this)) {}
+
+const Publication* Publication::first() noexcept { return FirstPublication(); }
+
+void StateRequired(Members& members, const Layout& layout) {
+  const auto state = [&](std::string_view property) {
+    const auto member = std::ranges::find(members, property, &Member::name);
+    if (member != members.end()) member->help.insert(member->help.size() - 1, kRequired);
+  };
+  for (const Attribute& attribute : layout.attributes) {
+    if (attribute.rule == Rule::Required) state(attribute.property);
+  }
+  for (const Child& child : layout.children) {
+    if (child.kind == ChildKind::Unnamed) state(child.property);
+  }
+}
 
 ClassDescription::ClassDescription(ClassFacts facts) : ClassFacts(std::move(facts)) {
   int32_t id = isKind ? kFirstKindMemberId : 1;

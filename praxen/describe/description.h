@@ -40,6 +40,8 @@ struct ClassFacts {
   std::span<const void* const> head;
   /// The same for a kind's own interface, which is not the object's first.
   std::span<const void* const> kindHead;
+  /// Of a kind: holds a foreign object that implements it; null for one that does not.
+  Ref<Object> (*adapt)(Interface* foreign) = nullptr;
 };
 
 /// A class with its interface tables.
@@ -63,10 +65,40 @@ struct ClassDescription : ClassFacts {
   std::vector<const void*> kind_table_;
 };
 
+/// One node for each published class, linked as the library is loaded.
+class Publication {
+ public:
+  explicit Publication(const ClassDescription& (*describe)()) noexcept;
+
+  /// The publications in no particular order.
+  static const Publication* first() noexcept;
+  const Publication* next() const noexcept { return next_; }
+  const ClassDescription& description() const { return describe_(); }
+
+ private:
+  const ClassDescription& (*const describe_)();
+  const Publication* const next_;
+};
+
+template <class Class>
+struct Published {
+  static const ClassDescription& Description();
+
+ private:
+  static const Publication publication;
+};
+
+/// Says in the help of members which of them writing requires: those of the attributes that must
+/// not be empty, and of the children that must be there.
+void StateRequired(Members& members, const Layout& layout);
+
 /// Ties `Class` to its description.
 template <class Class, class Base = Object>
 class Described : public Base {
  protected:
+  /// The class's name for itself.
+  using T = Class;
+
   Described() : Base(Describe<Class>()) {}
   explicit Described(Object::Counting counting) : Base(Describe<Class>(), counting) {}
 };

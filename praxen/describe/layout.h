@@ -341,12 +341,10 @@ Choice choice() {
   return made;
 }
 
-/// Elements of a kind that answered true to no choice before.
-template <class Class>
-Choice otherwise() {
-  Choice made = choice<Class>();
-  made.isKind = [](const Object&) { return true; };
-  return made;
+/// The choices, of which the last is taken also for elements that answered true to none.
+inline std::vector<Choice> LastOtherwise(std::vector<Choice> choices) {
+  choices.back().isKind = [](const Object&) { return true; };
+  return choices;
 }
 
 }  // namespace praxen::describe

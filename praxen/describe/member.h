@@ -2,8 +2,10 @@
 #ifndef PRAXEN_DESCRIBE_MEMBER_H_
 #define PRAXEN_DESCRIBE_MEMBER_H_
 
+#include <concepts>
 #include <cstdint>
 #include <initializer_list>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -34,7 +36,8 @@ using InvokeFunction = void (*)(Object& object, const tagVARIANT* const* argumen
 /// One published member: a property with its one or two functions, or a method.
 struct Member {
   std::string_view name;
-  std::string_view help;
+  /// A sentence.
+  std::string help;
   /// The dispatch identifier; given by the place in the list unless the member has a fixed one.
   int32_t id = 0;
   bool isMethod = false;
@@ -152,23 +155,30 @@ Member accessors(std::string_view name, std::string_view help) {
   return member;
 }
 
-/// A method that is a callable constant of the class; the constant knows its parameters.
-template <class Class, const auto& Callable>
-Member operation(std::string_view help = {}) {
-  using Type = std::remove_cvref_t<decltype(Callable)>;
-  Member member = member_detail::Make<ConstantOperation<Class, Callable>, Type::kByReference>(
-      EntityName<&Callable>(), help.empty() ? Type::Help() : help, Type::ParameterNames());
+/// An operation that creates or reads an object, called with its arguments, and that tells how it
+/// is published: bit n of `kByReference` says that argument n is passed by reference.
+template <class Type>
+concept MakingOperation = std::default_initializable<Type> && requires {
+  { Type::kByReference } -> std::convertible_to<uint32_t>;
+  { Type::ParameterNames() } -> std::same_as<std::vector<std::string_view>>;
+  { Type::Help() } -> std::convertible_to<std::string_view>;
+  &Type::operator();
+};
+
+/// A method that `Operation` runs and that is published as `Form` tells.
+template <class Operation, MakingOperation Form>
+Member making(std::string_view name, std::string_view help = Form::Help()) {
+  Member member =
+      member_detail::Make<Operation, Form::kByReference>(name, help, Form::ParameterNames());
   member.isMethod = true;
   return member;
 }
 
-/// A method that creates an object as `Form` tells.
-template <class Operation, class Form>
-Member creatingMember(std::string_view name) {
-  Member member = member_detail::Make<Operation, Form::kByReference>(name, Form::Help(),
-                                                                     Form::ParameterNames());
-  member.isMethod = true;
-  return member;
+/// A method that is a callable constant of the class.
+template <class Class, const auto& Callable>
+Member operation() {
+  using Type = std::remove_cvref_t<decltype(Callable)>;
+  return making<ConstantOperation<Class, Callable>, Type>(EntityName<&Callable>());
 }
 
 /// The member with the identifier that automation gives a meaning of its own.

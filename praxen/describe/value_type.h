@@ -39,9 +39,15 @@ namespace praxen::describe {
 
 struct ClassDescription;
 
-/// The description of a class; instantiated once per class, in the source file of its family.
+/// A published class; instantiated once per class, in the source file of its family (define.h).
 template <class Class>
-const ClassDescription& Describe();
+struct Published;
+
+/// The description of a class.
+template <class Class>
+const ClassDescription& Describe() {
+  return Published<Class>::Description();
+}
 
 enum class ValueKind : uint8_t {
   None,

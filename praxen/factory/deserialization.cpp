@@ -1,7 +1,7 @@
 // Reading of a whole document.
 #include "praxen/factory/deserialization.h"
 
-#include <array>
+#include <vector>
 
 #include "praxen/core/error.h"
 #include "praxen/factory/reading_frame.h"
@@ -18,9 +18,7 @@ Ref<Object> DeserializeObject(const ClassDescription& description, const Text& X
 
 Ref<ICodeBlock> CodeBlockDeserialization::operator()(const Text& XMLStr) const {
   const LoadedDocument document(XMLStr);
-  static const std::array<Choice, 6> languages{choice<FBDCodeBlock>(), choice<ILCodeBlock>(),
-                                               choice<LDCodeBlock>(),  choice<SFCCodeBlock>(),
-                                               choice<STCodeBlock>(),  choice<FDCodeBlock>()};
+  static const std::vector<Choice> languages = ICodeBlock::choices();
   for (const Choice& language : languages) {
     if (!document.IsRoot(language.elementName())) continue;
     const Ref<Object> block = language.create();

@@ -14,28 +14,29 @@ namespace praxen::detail {
 /// Creates an object of a described class and reads it from a document whose root is its element.
 Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr);
 
+/// What the reading operations have in common: the text is passed by reference.
+struct Reading {
+  static constexpr uint32_t kByReference = 1;
+
+  static std::vector<std::string_view> ParameterNames() { return {"XMLStr"}; }
+};
+
 /// Reads a document of `Class`. Raises `InvalidXml` for a text that does not parse or validate,
 /// `WrongRootElement` for the document of another class, and what reading its contents raises.
 template <class Class>
-struct Deserialization {
-  static constexpr uint32_t kByReference = 1;
-
+struct Deserialization : Reading {
   Ref<Class> operator()(const Text& XMLStr) const {
     return static_cast<Class*>(DeserializeObject(Describe<Class>(), XMLStr).get());
   }
 
-  static std::vector<std::string_view> ParameterNames() { return {"XMLStr"}; }
   static std::string_view Help() { return "Reads the object from an XML document."; }
 };
 
 /// Reads a code block of any language, as its root element tells; raises `WrongRootElement` for the
 /// document of anything else.
-struct CodeBlockDeserialization {
-  static constexpr uint32_t kByReference = 1;
-
+struct CodeBlockDeserialization : Reading {
   Ref<ICodeBlock> operator()(const Text& XMLStr) const;
 
-  static std::vector<std::string_view> ParameterNames() { return {"XMLStr"}; }
   static std::string_view Help() { return "Reads a code block of any language."; }
 };
 

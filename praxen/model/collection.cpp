@@ -5,6 +5,8 @@
 
 namespace praxen::collection_detail {
 
+using namespace detail;
+
 size_t ToIndex(int32_t position, size_t count) {
   if (position < 1 || static_cast<size_t>(position) > count) throw SubscriptOutOfRange();
   return static_cast<size_t>(position) - 1;

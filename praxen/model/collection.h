@@ -102,13 +102,13 @@ class Collection : public describe::Described<Class, Base> {
   /// Creates an element from the properties that its `Form` names, appends and returns it.
   template <class... Arguments>
   requires collection_detail::HasForm<Element> Ref<Element> Add1(const Arguments&... arguments) {
-    return describe::Addition<Class, typename Element::Form>::Run(self(), arguments...);
+    return Create<typename Element::Form>(arguments...);
   }
   /// The same with the properties of `LongForm`.
   template <class... Arguments>
   requires collection_detail::HasLongForm<Element> Ref<Element> Add2(
       const Arguments&... arguments) {
-    return describe::Addition<Class, typename Element::LongForm>::Run(self(), arguments...);
+    return Create<typename Element::LongForm>(arguments...);
   }
   /// The first element of that name, compared exactly; an empty reference when there is none.
   Ref<Element> Find(const Text& key) const requires collection_detail::HasKey<Element> {
@@ -181,10 +181,16 @@ class Collection : public describe::Described<Class, Base> {
         "Inserts the element before the one at the position; Count + 1 appends.",
         {Class::kArgument, "BeforeIndex"});
   }
-  template <class Form>
-  static describe::Member creation(std::string_view name) {
+  /// Creates an element as `Form` tells, appends and returns it.
+  template <describe::MakingOperation Form>
+  auto Create(const auto&... arguments) {
+    return Addition<Form>::Run(*this, arguments...);
+  }
+  /// The addition of what `Form` creates, published under that name.
+  template <describe::MakingOperation Form>
+  static describe::Member creation(std::string_view name, std::string_view help = Form::Help()) {
     using namespace describe;
-    return creatingMember<describe::Addition<Class, Form>, Form>(name);
+    return making<Addition<Form>, Form>(name, help);
   }
   static describe::Members additions() {
     using namespace describe;
@@ -225,12 +231,24 @@ class Collection : public describe::Described<Class, Base> {
   }
 
  private:
+  template <class Form, class Signature = decltype(&Form::operator())>
+  struct Addition;
+  template <class Form, class Creating, class Made, class... Arguments>
+  struct Addition<Form, Made (Creating::*)(Arguments...) const> {
+    static Made Run(Collection& list, Arguments... arguments) {
+      const Made object = Form()(arguments...);
+      list.RequireAddable(*object);
+      list.Add(object);
+      return object;
+    }
+  };
+
+  /// What a list asks of an element that it creates before appending it; raises an error.
+  virtual void RequireAddable(const Element&) {}
   /// What a list that keeps track of its elements does after each change; null is an empty
   /// reference.
   virtual void ElementAdded(Object*) noexcept {}
   virtual void ElementRemoved(Object*) noexcept {}
-
-  Class& self() { return static_cast<Class&>(*this); }
 
   std::vector<Ref<Object>> elements_;
 };

@@ -14,6 +14,6 @@ bool maintenance::GetIncludeCRLFInXML() const { return IncludeCRLFInXML(); }
 
 void maintenance::SetIncludeCRLFInXML(const bool& include) { praxen::SetIncludeCRLFInXML(include); }
 
-template const ClassDescription& describe::Describe<maintenance>();
+template struct describe::Published<maintenance>;
 
 }  // namespace praxen

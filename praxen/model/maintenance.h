@@ -16,15 +16,15 @@ class maintenance final : public describe::Described<maintenance> {
   static constexpr std::string_view kHelp = "The state of the whole library.";
   static describe::Members members() {
     using namespace describe;
-    return {computed<&maintenance::NrOfObjects>(
+    return {computed<&T::NrOfObjects>(
                 "Number of live objects of the library, its shared writer and factory and this "
                 "object included."),
-            accessors<&maintenance::GetIncludeCRLFInXML, &maintenance::SetIncludeCRLFInXML>(
+            accessors<&T::GetIncludeCRLFInXML, &T::SetIncludeCRLFInXML>(
                 "IncludeCRLFInXML", "Whether documents are written with line breaks.")};
   }
 };
 
-extern template const describe::ClassDescription& describe::Describe<maintenance>();
+extern template struct describe::Published<maintenance>;
 
 }  // namespace praxen
 

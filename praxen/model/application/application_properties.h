@@ -16,24 +16,19 @@ class ApplicationProperties final : public describe::Serializable<ApplicationPro
   static constexpr std::string_view kHelp = "The settings of an application.";
   static describe::Members members() {
     using namespace describe;
-    return {property<&ApplicationProperties::SILLevel>("Safety integrity level."),
-            property<&ApplicationProperties::SimulationMark>(
-                "Whether the application is marked for simulation."),
-            serialize(),
-            property<&ApplicationProperties::ApplicationType>(
-                "Type of the application, as the engineering tool found it.")};
+    return {property<&T::SILLevel>("Safety integrity level."),
+            property<&T::SimulationMark>("Whether the application is marked for simulation."),
+            serialize(), property<&T::ApplicationType>("Type of the application.")};
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {readOnly<&ApplicationProperties::ApplicationType>(u"Type"),
-                           optional<&ApplicationProperties::SILLevel>(),
-                           optional<&ApplicationProperties::SimulationMark>()}};
+    return {.attributes = {readOnly<&T::ApplicationType>(u"Type"), optional<&T::SILLevel>(),
+                           optional<&T::SimulationMark>()}};
   }
-  using Form = describe::Creation<ApplicationProperties, &ApplicationProperties::SILLevel,
-                                  &ApplicationProperties::SimulationMark>;
+  using Form = describe::Creation<T, &T::SILLevel, &T::SimulationMark>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<ApplicationProperties>();
+extern template struct describe::Published<ApplicationProperties>;
 
 }  // namespace praxen
 

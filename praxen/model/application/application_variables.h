@@ -18,22 +18,19 @@ class ApplicationVariables final : public describe::Serializable<ApplicationVari
   static constexpr std::string_view kHelp = "The variables and signals of an application.";
   static describe::Members members() {
     using namespace describe;
-    return {property<&ApplicationVariables::GlobalVariables>("Global variables."),
-            property<&ApplicationVariables::Variables>("Local variables."),
-            property<&ApplicationVariables::Description>("Free text."), serialize(),
-            property<&ApplicationVariables::Signals>("Signals.")};
+    return {property<&T::GlobalVariables>("Global variables."),
+            property<&T::Variables>("Local variables."), property<&T::Description>("Free text."),
+            serialize(), property<&T::Signals>("Signals.")};
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.children = {list<&ApplicationVariables::GlobalVariables>(),
-                         list<&ApplicationVariables::Variables>(),
-                         list<&ApplicationVariables::Signals>(),
-                         strictText<&ApplicationVariables::Description>()}};
+    return {.children = {list<&T::GlobalVariables>(), list<&T::Variables>(), list<&T::Signals>(),
+                         strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<ApplicationVariables, &ApplicationVariables::Description>;
+  using Form = describe::Creation<T, &T::Description>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<ApplicationVariables>();
+extern template struct describe::Published<ApplicationVariables>;
 
 }  // namespace praxen
 

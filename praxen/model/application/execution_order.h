@@ -13,13 +13,13 @@ class ExecutionInstance final : public describe::Described<ExecutionInstance> {
   static constexpr std::string_view kHelp = "An instance that a task executes.";
   static describe::Members members() {
     using namespace describe;
-    return {property<&ExecutionInstance::Name>("Name of the instance; required for writing.")};
+    return {property<&T::Name>("Name of the instance.")};
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&ExecutionInstance::Name>()}};
+    return {.attributes = {required<&T::Name>()}};
   }
-  using Form = describe::Creation<ExecutionInstance, &ExecutionInstance::Name>;
+  using Form = describe::Creation<T, &T::Name>;
 };
 
 class ExecutionGroup final
@@ -31,17 +31,17 @@ class ExecutionGroup final
   static constexpr std::string_view kArgument = "chl";
   static describe::Members members() {
     using namespace describe;
-    return Members{property<&ExecutionGroup::TaskName>("Name of the task."), serialize()} +
+    return Members{property<&T::TaskName>("Name of the task."), serialize()} +
            Collection::members();
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {always<&ExecutionGroup::TaskName>()},
+    return {.attributes = {always<&T::TaskName>()},
             .elements = {choice<ExecutionInstance>()},
             .container = Container::Always};
   }
-  static constexpr auto key() { return &ExecutionGroup::TaskName; }
-  using Form = describe::Creation<ExecutionGroup, &ExecutionGroup::TaskName>;
+  static constexpr auto key() { return &T::TaskName; }
+  using Form = describe::Creation<T, &T::TaskName>;
 };
 
 class ExecutionOrder final : public Collection<ExecutionOrder, ExecutionGroup, SerializableObject> {
@@ -58,9 +58,9 @@ class ExecutionOrder final : public Collection<ExecutionOrder, ExecutionGroup, S
   }
 };
 
-extern template const describe::ClassDescription& describe::Describe<ExecutionInstance>();
-extern template const describe::ClassDescription& describe::Describe<ExecutionOrder>();
-extern template const describe::ClassDescription& describe::Describe<ExecutionGroup>();
+extern template struct describe::Published<ExecutionInstance>;
+extern template struct describe::Published<ExecutionOrder>;
+extern template struct describe::Published<ExecutionGroup>;
 
 }  // namespace praxen
 

@@ -1,7 +1,6 @@
 // The names of project constants, which `Add1` keeps free of conflicts, and their tree in XML.
 #include "praxen/model/application/project_constant.h"
 
-#include "praxen/describe/define.h"
 #include "praxen/model/application/project_constant_tree.h"
 
 namespace praxen {
@@ -10,13 +9,8 @@ using namespace detail;
 
 ProjectConstants::~ProjectConstants() { DropIndex(); }
 
-Ref<ProjectConstant> ProjectConstants::Add1(const Text& Name, const Text& PCType,
-                                            const Text& Value) {
-  RequireFreeName(Name);
-  return Addition<ProjectConstants, ProjectConstant::Form>::Run(*this, Name, PCType, Value);
-}
-
-void ProjectConstants::RequireFreeName(const Text& name) {
+void ProjectConstants::RequireAddable(const ProjectConstant& created) {
+  const Text& name = created.Name;
   if (names_ != nullptr && !names_->valid()) DropIndex();
   if (names_ == nullptr) IndexNames(name);
   if (names_->ConflictsWith(name)) throw NameConflict();
@@ -65,15 +59,15 @@ Members ProjectConstants::members() {
   const Members names = lookups();
   places.insert(places.begin() + 1, names.begin(), names.end());
   return Members{serialize(), add(), addBefore(),
-                 method<&ProjectConstants::Add1>(
+                 creation<ProjectConstant::Form>(
+                     "Add1",
                      "Creates a constant with the given values and appends it; its name must not "
-                     "conflict with one in the list.",
-                     ProjectConstant::Form::ParameterNames())} +
+                     "conflict with one in the list.")} +
          places;
 }
 
 Layout ProjectConstants::layout() {
-  return {.children = {custom<&ProjectConstants::WriteTree, &ProjectConstants::ReadTree>(
+  return {.children = {custom<&T::WriteTree, &T::ReadTree>(
               "A group holds its members in a ProjectConstants element; a constant holds its Type "
               "and its Value.",
               {{u"ProjectConstant", ElementShape::Content::Children, {u"Name"}},
@@ -89,8 +83,5 @@ void ProjectConstants::ReadTree(XmlNode& cursor) {
   intProjectConstants().Read(cursor, *this);
   cursor = {};
 }
-
-template const ClassDescription& describe::Describe<ProjectConstant>();
-template const ClassDescription& describe::Describe<ProjectConstants>();
 
 }  // namespace praxen

@@ -22,26 +22,20 @@ class ProjectConstant final : public describe::Described<ProjectConstant> {
   static constexpr std::string_view kHelp = "A value that the whole project can use.";
   static describe::Members members() {
     using namespace describe;
-    return {accessors<&ProjectConstant::GetName, &ProjectConstant::SetName>(
-                detail::EntityName<&ProjectConstant::Name>(),
-                "Name with its groups, separated by dots."),
-            property<&ProjectConstant::PCType>("Data type."),
-            property<&ProjectConstant::Value>("Value as text.")};
+    return {accessors<&T::GetName, &T::SetName>(detail::EntityName<&T::Name>(),
+                                                "Name with its groups, separated by dots."),
+            property<&T::PCType>("Data type."), property<&T::Value>("Value as text.")};
   }
-  using Form = describe::Creation<ProjectConstant, describe::asText<&ProjectConstant::Name>,
-                                  &ProjectConstant::PCType, &ProjectConstant::Value>;
+  using Form = describe::Creation<T, describe::asText<&T::Name>, &T::PCType, &T::Value>;
 };
 
-/// Written as a tree of groups.
+/// Written as a tree of groups. `Add1` raises `NameConflict` when the name of the new constant
+/// equals that of a constant of the list or when one of the two is a dotted prefix of the other.
+/// The other additions do not test the name.
 class ProjectConstants final
     : public Collection<ProjectConstants, ProjectConstant, SerializableObject> {
  public:
   ~ProjectConstants() override;
-
-  /// Creates and appends a constant; raises `NameConflict` when its name equals that of a constant
-  /// of the list or when one of the two is a dotted prefix of the other. The other additions do not
-  /// test the name.
-  Ref<ProjectConstant> Add1(const Text& Name, const Text& PCType, const Text& Value);
 
   static constexpr std::string_view kHelp = "Project constants, in order.";
   static describe::Members members();
@@ -51,7 +45,7 @@ class ProjectConstants final
   void WriteTree(detail::XMLStringWriter& writer);
   void ReadTree(detail::XmlNode& cursor);
 
-  void RequireFreeName(const Text& name);
+  void RequireAddable(const ProjectConstant& created) override;
   /// Indexes the constants; `name` is the one that is about to be tested.
   void IndexNames(const Text& name);
   void DropIndex() noexcept;
@@ -62,8 +56,8 @@ class ProjectConstants final
   std::unique_ptr<detail::DottedNameIndex> names_;
 };
 
-extern template const describe::ClassDescription& describe::Describe<ProjectConstant>();
-extern template const describe::ClassDescription& describe::Describe<ProjectConstants>();
+extern template struct describe::Published<ProjectConstant>;
+extern template struct describe::Published<ProjectConstants>;
 
 }  // namespace praxen
 

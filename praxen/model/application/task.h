@@ -24,31 +24,30 @@ class Task final : public describe::Serializable<Task> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&Task::Name>("Name of the task; required for writing."),
-        property<&Task::IntervalTime>("Time from one cycle to the next."),
-        property<&Task::Priority>("Priority among the tasks."),
-        property<&Task::Offset>("Time by which the first cycle is delayed."),
-        property<&Task::OutputUpdate>("When in the cycle the outputs are updated."),
-        property<&Task::LatencySupervision>("Whether the latency is supervised."),
-        property<&Task::LatencyPercentage>("Latency that is accepted."),
-        property<&Task::TaskSILLevel>("Safety integrity level."),
-        property<&Task::Guid>("GUID of the task."),
+        property<&T::Name>("Name of the task."),
+        property<&T::IntervalTime>("Time from one cycle to the next."),
+        property<&T::Priority>("Priority among the tasks."),
+        property<&T::Offset>("Time by which the first cycle is delayed."),
+        property<&T::OutputUpdate>("When in the cycle the outputs are updated."),
+        property<&T::LatencySupervision>("Whether the latency is supervised."),
+        property<&T::LatencyPercentage>("Latency that is accepted."),
+        property<&T::TaskSILLevel>("Safety integrity level."),
+        property<&T::Guid>("GUID of the task."),
         serialize(),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&Task::Name>(), always<&Task::IntervalTime>(),
-                           always<&Task::Priority>(), always<&Task::Offset>(),
-                           always<&Task::OutputUpdate>(), always<&Task::LatencySupervision>(),
-                           always<&Task::LatencyPercentage>(), always<&Task::TaskSILLevel>(),
-                           optional<&Task::Guid>()}};
+    return {.attributes = {required<&T::Name>(), always<&T::IntervalTime>(), always<&T::Priority>(),
+                           always<&T::Offset>(), always<&T::OutputUpdate>(),
+                           always<&T::LatencySupervision>(), always<&T::LatencyPercentage>(),
+                           always<&T::TaskSILLevel>(), optional<&T::Guid>()}};
   }
-  using Form = describe::Creation<Task, &Task::Name, &Task::IntervalTime, &Task::Priority>;
-  using LongForm = describe::Extended<Form, &Task::Offset, &Task::OutputUpdate>;
+  using Form = describe::Creation<T, &T::Name, &T::IntervalTime, &T::Priority>;
+  using LongForm = describe::Extended<Form, &T::Offset, &T::OutputUpdate>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<Task>();
+extern template struct describe::Published<Task>;
 
 }  // namespace praxen
 

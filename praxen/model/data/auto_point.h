@@ -16,17 +16,17 @@ class AutoPoint final : public describe::Described<AutoPoint> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&AutoPoint::AutoPos>("Side of the graphics."),
+        property<&T::AutoPos>("Side of the graphics."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {always<&AutoPoint::AutoPos>()}};
+    return {.attributes = {always<&T::AutoPos>()}};
   }
-  using Form = describe::Creation<AutoPoint, &AutoPoint::AutoPos>;
+  using Form = describe::Creation<T, &T::AutoPos>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<AutoPoint>();
+extern template struct describe::Published<AutoPoint>;
 
 }  // namespace praxen
 

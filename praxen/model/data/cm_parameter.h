@@ -23,48 +23,41 @@ class CMParameter final : public describe::Serializable<CMParameter> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&CMParameter::Name>("Name of the parameter; required for writing."),
-        property<&CMParameter::TypeName>("Data type; required for writing."),
-        property<&CMParameter::InitialValue>("Value at start."),
-        property<&CMParameter::Description>("Free text."),
-        property<&CMParameter::ReadPermission>("Permission that reading needs."),
-        property<&CMParameter::WritePermission>("Permission that writing needs."),
-        property<&CMParameter::AuthenticationLevel>("Authentication that writing needs."),
-        property<&CMParameter::BatchProperty>("Meaning of the parameter for batch control."),
-        property<&CMParameter::AutoPoint>(
+        property<&T::Name>("Name of the parameter."),
+        property<&T::TypeName>("Data type."),
+        property<&T::InitialValue>("Value at start."),
+        property<&T::Description>("Free text."),
+        property<&T::ReadPermission>("Permission that reading needs."),
+        property<&T::WritePermission>("Permission that writing needs."),
+        property<&T::AuthenticationLevel>("Authentication that writing needs."),
+        property<&T::BatchProperty>("Meaning of the parameter for batch control."),
+        property<&T::AutoPoint>(
             "Side at which the parameter is connected; nothing when none is chosen."),
-        property<&CMParameter::GraphNodes>("Graph nodes of the parameter."),
-        property<&CMParameter::TypeGuid>(
-            "GUID of the data type, as the engineering tool found it."),
-        property<&CMParameter::TypePath>(
-            "Path of the data type, as the engineering tool found it."),
+        property<&T::GraphNodes>("Graph nodes of the parameter."),
+        property<&T::TypeGuid>("GUID of the data type."),
+        property<&T::TypePath>("Path of the data type."),
         serialize(),
-        property<&CMParameter::AccessLevel>("Access level for safety."),
-        property<&CMParameter::SafetyType>("Safety type."),
-        property<&CMParameter::Direction>("Direction as a free text, such as in or out."),
-        property<&CMParameter::FDPort>(
-            "Whether function diagrams show the parameter as a port; yes or no."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
+        property<&T::Direction>("Direction as a free text, such as in or out."),
+        property<&T::FDPort>("Whether function diagrams show the parameter as a port; yes or no."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
     return {
-        .attributes = {required<&CMParameter::Name>(), required<&CMParameter::TypeName>(u"Type"),
-                       optional<&CMParameter::Direction>(), optional<&CMParameter::FDPort>(),
-                       optional<&CMParameter::InitialValue>(),
-                       optional<&CMParameter::ReadPermission>(),
-                       optional<&CMParameter::WritePermission>(),
-                       optional<&CMParameter::AuthenticationLevel>(),
-                       readOnly<&CMParameter::TypeGuid>(), readOnly<&CMParameter::TypePath>(),
-                       optional<&CMParameter::BatchProperty>(),
-                       optional<&CMParameter::AccessLevel>(), optional<&CMParameter::SafetyType>()},
-        .children = {text<&CMParameter::Description>(), object<&CMParameter::AutoPoint>(),
-                     items<&CMParameter::GraphNodes>()}};
+        .attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                       optional<&T::Direction>(), optional<&T::FDPort>(),
+                       optional<&T::InitialValue>(), optional<&T::ReadPermission>(),
+                       optional<&T::WritePermission>(), optional<&T::AuthenticationLevel>(),
+                       readOnly<&T::TypeGuid>(), readOnly<&T::TypePath>(),
+                       optional<&T::BatchProperty>(), optional<&T::AccessLevel>(),
+                       optional<&T::SafetyType>()},
+        .children = {text<&T::Description>(), object<&T::AutoPoint>(), items<&T::GraphNodes>()}};
   }
-  using Form = describe::Creation<CMParameter, &CMParameter::Name, &CMParameter::TypeName>;
-  using LongForm = describe::Extended<Form, &CMParameter::InitialValue,
-                                      &CMParameter::ReadPermission, &CMParameter::WritePermission,
-                                      &CMParameter::Description, &CMParameter::AutoPoint>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
+  using LongForm = describe::Extended<Form, &T::InitialValue, &T::ReadPermission,
+                                      &T::WritePermission, &T::Description, &T::AutoPoint>;
 };
 
 class CMParameters final : public Collection<CMParameters, CMParameter> {
@@ -72,8 +65,8 @@ class CMParameters final : public Collection<CMParameters, CMParameter> {
   static constexpr std::string_view kHelp = "Parameters of a control module type, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<CMParameter>();
-extern template const describe::ClassDescription& describe::Describe<CMParameters>();
+extern template struct describe::Published<CMParameter>;
+extern template struct describe::Published<CMParameters>;
 
 }  // namespace praxen
 

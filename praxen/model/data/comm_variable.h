@@ -26,54 +26,46 @@ class CommVariable final : public describe::Serializable<CommVariable> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&CommVariable::Name>("Name of the variable; required for writing."),
-        property<&CommVariable::TypeName>("Data type; required for writing."),
-        property<&CommVariable::PXAttribute>("Attributes such as retain or constant."),
-        property<&CommVariable::InitialValue>("Value at start."),
-        property<&CommVariable::Direction>(
+        property<&T::Name>("Name of the variable."),
+        property<&T::TypeName>("Data type."),
+        property<&T::PXAttribute>("Attributes such as retain or constant."),
+        property<&T::InitialValue>("Value at start."),
+        property<&T::Direction>(
             "Direction of the communication as a free text, such as in or out."),
-        property<&CommVariable::IPAddress>("Address of the communication partner, or auto."),
-        property<&CommVariable::IntervalTime>(
+        property<&T::IPAddress>("Address of the communication partner, or auto."),
+        property<&T::IntervalTime>(
             "How often the variable is communicated; normal or another interval."),
-        property<&CommVariable::Priority>("Priority of the communication; normal or another."),
-        property<&CommVariable::ISPValue>("Value that is used when the communication fails."),
-        property<&CommVariable::ReadPermission>("Permission that reading needs."),
-        property<&CommVariable::Description>("Free text."),
-        property<&CommVariable::TypeGuid>(
-            "GUID of the data type, as the engineering tool found it."),
-        property<&CommVariable::TypePath>(
-            "Path of the data type, as the engineering tool found it."),
+        property<&T::Priority>("Priority of the communication; normal or another."),
+        property<&T::ISPValue>("Value that is used when the communication fails."),
+        property<&T::ReadPermission>("Permission that reading needs."),
+        property<&T::Description>("Free text."),
+        property<&T::TypeGuid>("GUID of the data type."),
+        property<&T::TypePath>("Path of the data type."),
         serialize(),
-        property<&CommVariable::ExpectedSIL>(
+        property<&T::ExpectedSIL>(
             "Safety integrity level expected of the partner; same or another."),
-        property<&CommVariable::UniqueID>(
-            "Number that identifies the variable; 0 when none is given."),
-        property<&CommVariable::RestrictedSIL>("Whether the variable is restricted in its safety "
-                                               "integrity level; not part of the XML."),
-        property<&CommVariable::AcknowledgeGroup>("Group in which the variable is acknowledged."),
+        property<&T::UniqueID>("Number that identifies the variable; 0 when none is given."),
+        property<&T::RestrictedSIL>("Whether the variable is restricted in its safety "
+                                    "integrity level; not part of the XML."),
+        property<&T::AcknowledgeGroup>("Group in which the variable is acknowledged."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = {required<&CommVariable::Name>(), required<&CommVariable::TypeName>(u"Type"),
-                       always<&CommVariable::PXAttribute>(u"Attribute"),
-                       always<&CommVariable::Direction>(), optional<&CommVariable::InitialValue>(),
-                       optional<&CommVariable::ISPValue>(), optional<&CommVariable::Priority>(),
-                       optional<&CommVariable::IntervalTime>(),
-                       optional<&CommVariable::IPAddress>(),
-                       optional<&CommVariable::ReadPermission>(),
-                       optional<&CommVariable::ExpectedSIL>(), optional<&CommVariable::UniqueID>(),
-                       optional<&CommVariable::AcknowledgeGroup>(),
-                       readOnly<&CommVariable::TypeGuid>(), readOnly<&CommVariable::TypePath>()},
-        .children = {text<&CommVariable::Description>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           always<&T::PXAttribute>(u"Attribute"), always<&T::Direction>(),
+                           optional<&T::InitialValue>(), optional<&T::ISPValue>(),
+                           optional<&T::Priority>(), optional<&T::IntervalTime>(),
+                           optional<&T::IPAddress>(), optional<&T::ReadPermission>(),
+                           optional<&T::ExpectedSIL>(), optional<&T::UniqueID>(),
+                           optional<&T::AcknowledgeGroup>(), readOnly<&T::TypeGuid>(),
+                           readOnly<&T::TypePath>()},
+            .children = {text<&T::Description>()}};
   }
-  using Form = describe::Creation<CommVariable, &CommVariable::Name, &CommVariable::TypeName,
-                                  &CommVariable::Direction>;
-  using LongForm = describe::Extended<Form, &CommVariable::PXAttribute, &CommVariable::InitialValue,
-                                      &CommVariable::ISPValue, &CommVariable::Priority,
-                                      &CommVariable::IntervalTime, &CommVariable::ReadPermission,
-                                      &CommVariable::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName, &T::Direction>;
+  using LongForm =
+      describe::Extended<Form, &T::PXAttribute, &T::InitialValue, &T::ISPValue, &T::Priority,
+                         &T::IntervalTime, &T::ReadPermission, &T::Description>;
 };
 
 class CommVariables final : public Collection<CommVariables, CommVariable> {
@@ -81,8 +73,8 @@ class CommVariables final : public Collection<CommVariables, CommVariable> {
   static constexpr std::string_view kHelp = "Communication variables, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<CommVariable>();
-extern template const describe::ClassDescription& describe::Describe<CommVariables>();
+extern template struct describe::Published<CommVariable>;
+extern template struct describe::Published<CommVariables>;
 
 }  // namespace praxen
 

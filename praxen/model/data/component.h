@@ -20,36 +20,33 @@ class Component final : public describe::Described<Component> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&Component::Name>("Name of the component; required for writing."),
-        property<&Component::TypeName>("Data type; required for writing."),
-        property<&Component::PXAttribute>("Attributes such as retain or constant."),
-        property<&Component::InitialValue>("Value at start."),
-        property<&Component::ReadPermission>("Permission that reading needs."),
-        property<&Component::WritePermission>("Permission that writing needs."),
-        property<&Component::AuthenticationLevel>("Authentication that writing needs."),
-        property<&Component::Description>("Free text."),
-        property<&Component::TypeGuid>("GUID of the data type, as the engineering tool found it."),
-        property<&Component::TypePath>("Path of the data type, as the engineering tool found it."),
-        property<&Component::AccessLevel>("Access level for safety."),
-        property<&Component::SafetyType>("Safety type."),
-        property<&Component::ISPValue>("Value that is used when the communication fails."),
+        property<&T::Name>("Name of the component."),
+        property<&T::TypeName>("Data type."),
+        property<&T::PXAttribute>("Attributes such as retain or constant."),
+        property<&T::InitialValue>("Value at start."),
+        property<&T::ReadPermission>("Permission that reading needs."),
+        property<&T::WritePermission>("Permission that writing needs."),
+        property<&T::AuthenticationLevel>("Authentication that writing needs."),
+        property<&T::Description>("Free text."),
+        property<&T::TypeGuid>("GUID of the data type."),
+        property<&T::TypePath>("Path of the data type."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
+        property<&T::ISPValue>("Value that is used when the communication fails."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&Component::Name>(), required<&Component::TypeName>(u"Type"),
-                           always<&Component::PXAttribute>(u"Attribute"),
-                           optional<&Component::InitialValue>(), optional<&Component::ISPValue>(),
-                           optional<&Component::ReadPermission>(),
-                           optional<&Component::WritePermission>(),
-                           optional<&Component::AuthenticationLevel>(),
-                           readOnly<&Component::TypeGuid>(), readOnly<&Component::TypePath>(),
-                           optional<&Component::AccessLevel>(), optional<&Component::SafetyType>()},
-            .children = {strictText<&Component::Description>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           always<&T::PXAttribute>(u"Attribute"), optional<&T::InitialValue>(),
+                           optional<&T::ISPValue>(), optional<&T::ReadPermission>(),
+                           optional<&T::WritePermission>(), optional<&T::AuthenticationLevel>(),
+                           readOnly<&T::TypeGuid>(), readOnly<&T::TypePath>(),
+                           optional<&T::AccessLevel>(), optional<&T::SafetyType>()},
+            .children = {strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<Component, &Component::Name, &Component::TypeName>;
-  using LongForm = describe::Extended<Form, &Component::PXAttribute, &Component::InitialValue,
-                                      &Component::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
+  using LongForm = describe::Extended<Form, &T::PXAttribute, &T::InitialValue, &T::Description>;
 };
 
 class Components final : public Collection<Components, Component> {
@@ -57,8 +54,8 @@ class Components final : public Collection<Components, Component> {
   static constexpr std::string_view kHelp = "Components of a data type, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<Component>();
-extern template const describe::ClassDescription& describe::Describe<Components>();
+extern template struct describe::Published<Component>;
+extern template struct describe::Published<Components>;
 
 }  // namespace praxen
 

@@ -18,29 +18,27 @@ class DataType final : public describe::Serializable<DataType> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&DataType::Name>("Name of the data type; required for writing."),
-        property<&DataType::Protected>("Whether the type is protected."),
-        property<&DataType::Hidden>("Whether the type is hidden from users."),
-        property<&DataType::Scope>("Where the type can be used."),
-        property<&DataType::Description>("Free text."),
-        property<&DataType::Guid>("GUID of the type."),
-        property<&DataType::ReservedByFunction>("Function that the type is reserved by."),
-        property<&DataType::Components>("Components of the data type."),
+        property<&T::Name>("Name of the data type."),
+        property<&T::Protected>("Whether the type is protected."),
+        property<&T::Hidden>("Whether the type is hidden from users."),
+        property<&T::Scope>("Where the type can be used."),
+        property<&T::Description>("Free text."),
+        property<&T::Guid>("GUID of the type."),
+        property<&T::ReservedByFunction>("Function that the type is reserved by."),
+        property<&T::Components>("Components of the data type."),
         serialize(),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = POUHeader<DataType>(
-                {optional<&DataType::Guid>(), optional<&DataType::ReservedByFunction>()}),
-            .children = {list<&DataType::Components>(), strictText<&DataType::Description>()}};
+    return {.attributes = POUHeader<T>({optional<&T::Guid>(), optional<&T::ReservedByFunction>()}),
+            .children = {list<&T::Components>(), strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<DataType, &DataType::Name, &DataType::Description>;
-  using LongForm =
-      describe::Extended<Form, &DataType::Protected, &DataType::Hidden, &DataType::Scope>;
+  using Form = describe::Creation<T, &T::Name, &T::Description>;
+  using LongForm = describe::Extended<Form, &T::Protected, &T::Hidden, &T::Scope>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<DataType>();
+extern template struct describe::Published<DataType>;
 
 }  // namespace praxen
 

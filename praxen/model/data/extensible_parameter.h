@@ -21,42 +21,32 @@ class ExtensibleParameter final : public describe::Serializable<ExtensibleParame
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&ExtensibleParameter::Name>("Name of the parameter; required for writing."),
-        property<&ExtensibleParameter::TypeName>("Data type; required for writing."),
-        property<&ExtensibleParameter::PXAttribute>("Attributes such as retain or constant."),
-        property<&ExtensibleParameter::Direction>("Direction of the parameter."),
-        property<&ExtensibleParameter::InitialValue>("Value at start."),
-        property<&ExtensibleParameter::Description>("Free text."),
+        property<&T::Name>("Name of the parameter."),
+        property<&T::TypeName>("Data type."),
+        property<&T::PXAttribute>("Attributes such as retain or constant."),
+        property<&T::Direction>("Direction of the parameter."),
+        property<&T::InitialValue>("Value at start."),
+        property<&T::Description>("Free text."),
         serialize(),
-        property<&ExtensibleParameter::AccessLevel>("Access level for safety."),
-        property<&ExtensibleParameter::SafetyType>("Safety type."),
-        property<&ExtensibleParameter::TypeGuid>(
-            "GUID of the data type, as the engineering tool found it."),
-        property<&ExtensibleParameter::TypePath>(
-            "Path of the data type, as the engineering tool found it."),
-        property<&ExtensibleParameter::FDPort>(
-            "Whether function diagrams show the parameter as a port; yes or no."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
+        property<&T::TypeGuid>("GUID of the data type."),
+        property<&T::TypePath>("Path of the data type."),
+        property<&T::FDPort>("Whether function diagrams show the parameter as a port; yes or no."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&ExtensibleParameter::Name>(),
-                           required<&ExtensibleParameter::TypeName>(u"Type"),
-                           always<&ExtensibleParameter::PXAttribute>(u"Attribute"),
-                           always<&ExtensibleParameter::Direction>(),
-                           optional<&ExtensibleParameter::FDPort>(),
-                           optional<&ExtensibleParameter::InitialValue>(),
-                           readOnly<&ExtensibleParameter::TypeGuid>(),
-                           readOnly<&ExtensibleParameter::TypePath>(),
-                           optional<&ExtensibleParameter::AccessLevel>(),
-                           optional<&ExtensibleParameter::SafetyType>()},
-            .children = {strictText<&ExtensibleParameter::Description>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           always<&T::PXAttribute>(u"Attribute"), always<&T::Direction>(),
+                           optional<&T::FDPort>(), optional<&T::InitialValue>(),
+                           readOnly<&T::TypeGuid>(), readOnly<&T::TypePath>(),
+                           optional<&T::AccessLevel>(), optional<&T::SafetyType>()},
+            .children = {strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<ExtensibleParameter, &ExtensibleParameter::Name,
-                                  &ExtensibleParameter::TypeName>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
   using LongForm =
-      describe::Extended<Form, &ExtensibleParameter::PXAttribute, &ExtensibleParameter::Direction,
-                         &ExtensibleParameter::InitialValue, &ExtensibleParameter::Description>;
+      describe::Extended<Form, &T::PXAttribute, &T::Direction, &T::InitialValue, &T::Description>;
 };
 
 class ExtensibleParameters final : public Collection<ExtensibleParameters, ExtensibleParameter> {
@@ -64,8 +54,8 @@ class ExtensibleParameters final : public Collection<ExtensibleParameters, Exten
   static constexpr std::string_view kHelp = "Extensible parameters, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<ExtensibleParameter>();
-extern template const describe::ClassDescription& describe::Describe<ExtensibleParameters>();
+extern template struct describe::Published<ExtensibleParameter>;
+extern template struct describe::Published<ExtensibleParameters>;
 
 }  // namespace praxen
 

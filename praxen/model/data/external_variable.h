@@ -18,43 +18,33 @@ class ExternalVariable final : public describe::Serializable<ExternalVariable> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&ExternalVariable::Name>("Name of the variable; required for writing."),
-        property<&ExternalVariable::TypeName>("Data type; required for writing."),
-        property<&ExternalVariable::PXAttribute>("Attributes such as retain or constant."),
-        property<&ExternalVariable::Description>("Free text."),
-        property<&ExternalVariable::ReadPermission>("Permission that reading needs."),
-        property<&ExternalVariable::WritePermission>("Permission that writing needs."),
-        property<&ExternalVariable::AuthenticationLevel>("Authentication that writing needs."),
-        property<&ExternalVariable::GraphNodes>("Graph nodes of the variable."),
-        property<&ExternalVariable::TypeGuid>(
-            "GUID of the data type, as the engineering tool found it."),
-        property<&ExternalVariable::TypePath>(
-            "Path of the data type, as the engineering tool found it."),
+        property<&T::Name>("Name of the variable."),
+        property<&T::TypeName>("Data type."),
+        property<&T::PXAttribute>("Attributes such as retain or constant."),
+        property<&T::Description>("Free text."),
+        property<&T::ReadPermission>("Permission that reading needs."),
+        property<&T::WritePermission>("Permission that writing needs."),
+        property<&T::AuthenticationLevel>("Authentication that writing needs."),
+        property<&T::GraphNodes>("Graph nodes of the variable."),
+        property<&T::TypeGuid>("GUID of the data type."),
+        property<&T::TypePath>("Path of the data type."),
         serialize(),
-        property<&ExternalVariable::AccessLevel>("Access level for safety."),
-        property<&ExternalVariable::SafetyType>("Safety type."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&ExternalVariable::Name>(),
-                           required<&ExternalVariable::TypeName>(u"Type"),
-                           always<&ExternalVariable::PXAttribute>(u"Attribute"),
-                           optional<&ExternalVariable::ReadPermission>(),
-                           optional<&ExternalVariable::WritePermission>(),
-                           optional<&ExternalVariable::AuthenticationLevel>(),
-                           readOnly<&ExternalVariable::TypeGuid>(),
-                           readOnly<&ExternalVariable::TypePath>(),
-                           optional<&ExternalVariable::AccessLevel>(),
-                           optional<&ExternalVariable::SafetyType>()},
-            .children = {text<&ExternalVariable::Description>(),
-                         items<&ExternalVariable::GraphNodes>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           always<&T::PXAttribute>(u"Attribute"), optional<&T::ReadPermission>(),
+                           optional<&T::WritePermission>(), optional<&T::AuthenticationLevel>(),
+                           readOnly<&T::TypeGuid>(), readOnly<&T::TypePath>(),
+                           optional<&T::AccessLevel>(), optional<&T::SafetyType>()},
+            .children = {text<&T::Description>(), items<&T::GraphNodes>()}};
   }
-  using Form =
-      describe::Creation<ExternalVariable, &ExternalVariable::Name, &ExternalVariable::TypeName>;
-  using LongForm =
-      describe::Extended<Form, &ExternalVariable::PXAttribute, &ExternalVariable::ReadPermission,
-                         &ExternalVariable::WritePermission, &ExternalVariable::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
+  using LongForm = describe::Extended<Form, &T::PXAttribute, &T::ReadPermission,
+                                      &T::WritePermission, &T::Description>;
 };
 
 class ExternalVariables final : public Collection<ExternalVariables, ExternalVariable> {
@@ -62,8 +52,8 @@ class ExternalVariables final : public Collection<ExternalVariables, ExternalVar
   static constexpr std::string_view kHelp = "External variables, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<ExternalVariable>();
-extern template const describe::ClassDescription& describe::Describe<ExternalVariables>();
+extern template struct describe::Published<ExternalVariable>;
+extern template struct describe::Published<ExternalVariables>;
 
 }  // namespace praxen
 

@@ -20,44 +20,35 @@ class GlobalVariable final : public describe::Serializable<GlobalVariable> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&GlobalVariable::Name>("Name of the variable; required for writing."),
-        property<&GlobalVariable::TypeName>("Data type; required for writing."),
-        property<&GlobalVariable::PXAttribute>("Attributes such as retain or constant."),
-        property<&GlobalVariable::InitialValue>("Value at start."),
-        property<&GlobalVariable::Description>("Free text."),
-        property<&GlobalVariable::ReadPermission>("Permission that reading needs."),
-        property<&GlobalVariable::WritePermission>("Permission that writing needs."),
-        property<&GlobalVariable::AuthenticationLevel>("Authentication that writing needs."),
-        property<&GlobalVariable::GraphNodes>("Graph nodes of the variable."),
-        property<&GlobalVariable::TypeGuid>(
-            "GUID of the data type, as the engineering tool found it."),
-        property<&GlobalVariable::TypePath>(
-            "Path of the data type, as the engineering tool found it."),
+        property<&T::Name>("Name of the variable."),
+        property<&T::TypeName>("Data type."),
+        property<&T::PXAttribute>("Attributes such as retain or constant."),
+        property<&T::InitialValue>("Value at start."),
+        property<&T::Description>("Free text."),
+        property<&T::ReadPermission>("Permission that reading needs."),
+        property<&T::WritePermission>("Permission that writing needs."),
+        property<&T::AuthenticationLevel>("Authentication that writing needs."),
+        property<&T::GraphNodes>("Graph nodes of the variable."),
+        property<&T::TypeGuid>("GUID of the data type."),
+        property<&T::TypePath>("Path of the data type."),
         serialize(),
-        property<&GlobalVariable::AccessLevel>("Access level for safety."),
-        property<&GlobalVariable::SafetyType>("Safety type."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = {required<&GlobalVariable::Name>(),
-                       required<&GlobalVariable::TypeName>(u"Type"),
-                       always<&GlobalVariable::PXAttribute>(u"Attribute"),
-                       optional<&GlobalVariable::InitialValue>(),
-                       optional<&GlobalVariable::ReadPermission>(),
-                       optional<&GlobalVariable::WritePermission>(),
-                       optional<&GlobalVariable::AuthenticationLevel>(),
-                       readOnly<&GlobalVariable::TypeGuid>(), readOnly<&GlobalVariable::TypePath>(),
-                       optional<&GlobalVariable::AccessLevel>(),
-                       optional<&GlobalVariable::SafetyType>()},
-        .children = {text<&GlobalVariable::Description>(), items<&GlobalVariable::GraphNodes>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           always<&T::PXAttribute>(u"Attribute"), optional<&T::InitialValue>(),
+                           optional<&T::ReadPermission>(), optional<&T::WritePermission>(),
+                           optional<&T::AuthenticationLevel>(), readOnly<&T::TypeGuid>(),
+                           readOnly<&T::TypePath>(), optional<&T::AccessLevel>(),
+                           optional<&T::SafetyType>()},
+            .children = {text<&T::Description>(), items<&T::GraphNodes>()}};
   }
-  using Form = describe::Creation<GlobalVariable, &GlobalVariable::Name, &GlobalVariable::TypeName>;
-  using LongForm =
-      describe::Extended<Form, &GlobalVariable::PXAttribute, &GlobalVariable::InitialValue,
-                         &GlobalVariable::ReadPermission, &GlobalVariable::WritePermission,
-                         &GlobalVariable::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
+  using LongForm = describe::Extended<Form, &T::PXAttribute, &T::InitialValue, &T::ReadPermission,
+                                      &T::WritePermission, &T::Description>;
 };
 
 class GlobalVariables final : public Collection<GlobalVariables, GlobalVariable> {
@@ -65,8 +56,8 @@ class GlobalVariables final : public Collection<GlobalVariables, GlobalVariable>
   static constexpr std::string_view kHelp = "Global variables, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<GlobalVariable>();
-extern template const describe::ClassDescription& describe::Describe<GlobalVariables>();
+extern template struct describe::Published<GlobalVariable>;
+extern template struct describe::Published<GlobalVariables>;
 
 }  // namespace praxen
 

@@ -14,16 +14,14 @@ class GraphNode final : public describe::Described<GraphNode> {
   static constexpr std::string_view kHelp = "A named point of a variable or parameter.";
   static describe::Members members() {
     using namespace describe;
-    return {property<&GraphNode::Name>("Name of the node."),
-            property<&GraphNode::X>("Horizontal coordinate."),
-            property<&GraphNode::Y>("Vertical coordinate.")};
+    return {property<&T::Name>("Name of the node."), property<&T::X>("Horizontal coordinate."),
+            property<&T::Y>("Vertical coordinate.")};
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {always<&GraphNode::Name>(), always<&GraphNode::X>(),
-                           always<&GraphNode::Y>()}};
+    return {.attributes = {always<&T::Name>(), always<&T::X>(), always<&T::Y>()}};
   }
-  using Form = describe::Creation<GraphNode, &GraphNode::Name, &GraphNode::X, &GraphNode::Y>;
+  using Form = describe::Creation<T, &T::Name, &T::X, &T::Y>;
 };
 
 class GraphNodes final : public Collection<GraphNodes, GraphNode> {
@@ -35,8 +33,8 @@ class GraphNodes final : public Collection<GraphNodes, GraphNode> {
   }
 };
 
-extern template const describe::ClassDescription& describe::Describe<GraphNode>();
-extern template const describe::ClassDescription& describe::Describe<GraphNodes>();
+extern template struct describe::Published<GraphNode>;
+extern template struct describe::Published<GraphNodes>;
 
 }  // namespace praxen
 

@@ -1,14 +1,9 @@
-// The descriptions of InitValue and InitValues.
+// The look-up of initial values, which have two keys.
 #include "praxen/model/data/init_value.h"
-
-#include "praxen/describe/define.h"
 
 namespace praxen {
 
 using namespace detail;
-
-template const ClassDescription& describe::Describe<InitValue>();
-template const ClassDescription& describe::Describe<InitValues>();
 
 Ref<InitValue> InitValues::Find(const Text& POUPath, const Text& Name) const {
   const int32_t position = FindNr(POUPath, Name);

@@ -14,19 +14,17 @@ class InitValue final : public describe::Serializable<InitValue> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&InitValue::POUPath>("Path of the unit that holds the variable."),
-        property<&InitValue::Name>("Name of the variable; required for writing."),
-        property<&InitValue::Value>("Value at start."),
+        property<&T::POUPath>("Path of the unit that holds the variable."),
+        property<&T::Name>("Name of the variable."),
+        property<&T::Value>("Value at start."),
         serialize(),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {optional<&InitValue::POUPath>(), required<&InitValue::Name>(),
-                           always<&InitValue::Value>()}};
+    return {.attributes = {optional<&T::POUPath>(), required<&T::Name>(), always<&T::Value>()}};
   }
-  using Form =
-      describe::Creation<InitValue, &InitValue::POUPath, &InitValue::Name, &InitValue::Value>;
+  using Form = describe::Creation<T, &T::POUPath, &T::Name, &T::Value>;
 };
 
 class InitValues final : public Collection<InitValues, InitValue> {
@@ -43,16 +41,15 @@ class InitValues final : public Collection<InitValues, InitValue> {
     const std::vector<std::string_view> keys{detail::EntityName<&InitValue::POUPath>(),
                                              detail::EntityName<&InitValue::Name>()};
     return additions() +
-           Members{method<&InitValues::Find>(
-                       "The first initial value of that variable, or nothing.", keys),
-                   method<&InitValues::FindNr>(
+           Members{method<&T::Find>("The first initial value of that variable, or nothing.", keys),
+                   method<&T::FindNr>(
                        "The position of the first initial value of that variable, or -1.", keys)} +
            positions();
   }
 };
 
-extern template const describe::ClassDescription& describe::Describe<InitValue>();
-extern template const describe::ClassDescription& describe::Describe<InitValues>();
+extern template struct describe::Published<InitValue>;
+extern template struct describe::Published<InitValues>;
 
 }  // namespace praxen
 

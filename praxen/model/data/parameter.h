@@ -21,41 +21,37 @@ class Parameter final : public describe::Serializable<Parameter> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&Parameter::Name>("Name of the parameter; required for writing."),
-        property<&Parameter::TypeName>("Data type; required for writing."),
-        property<&Parameter::PXAttribute>("Attributes such as retain or constant."),
-        property<&Parameter::Direction>("Direction of the parameter."),
-        property<&Parameter::InitialValue>("Value at start."),
-        property<&Parameter::Description>("Free text."),
-        property<&Parameter::ReadPermission>("Permission that reading needs."),
-        property<&Parameter::WritePermission>("Permission that writing needs."),
-        property<&Parameter::AuthenticationLevel>("Authentication that writing needs."),
-        property<&Parameter::TypeGuid>("GUID of the data type, as the engineering tool found it."),
-        property<&Parameter::TypePath>("Path of the data type, as the engineering tool found it."),
+        property<&T::Name>("Name of the parameter."),
+        property<&T::TypeName>("Data type."),
+        property<&T::PXAttribute>("Attributes such as retain or constant."),
+        property<&T::Direction>("Direction of the parameter."),
+        property<&T::InitialValue>("Value at start."),
+        property<&T::Description>("Free text."),
+        property<&T::ReadPermission>("Permission that reading needs."),
+        property<&T::WritePermission>("Permission that writing needs."),
+        property<&T::AuthenticationLevel>("Authentication that writing needs."),
+        property<&T::TypeGuid>("GUID of the data type."),
+        property<&T::TypePath>("Path of the data type."),
         serialize(),
-        property<&Parameter::AccessLevel>("Access level for safety."),
-        property<&Parameter::SafetyType>("Safety type."),
-        property<&Parameter::FDPort>(
-            "Whether function diagrams show the parameter as a port; yes or no."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
+        property<&T::FDPort>("Whether function diagrams show the parameter as a port; yes or no."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = {required<&Parameter::Name>(), required<&Parameter::TypeName>(u"Type"),
-                       always<&Parameter::PXAttribute>(u"Attribute"),
-                       always<&Parameter::Direction>(), optional<&Parameter::FDPort>(),
-                       optional<&Parameter::InitialValue>(), optional<&Parameter::ReadPermission>(),
-                       optional<&Parameter::WritePermission>(),
-                       optional<&Parameter::AuthenticationLevel>(),
-                       readOnly<&Parameter::TypeGuid>(), readOnly<&Parameter::TypePath>(),
-                       optional<&Parameter::AccessLevel>(), optional<&Parameter::SafetyType>()},
-        .children = {strictText<&Parameter::Description>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           always<&T::PXAttribute>(u"Attribute"), always<&T::Direction>(),
+                           optional<&T::FDPort>(), optional<&T::InitialValue>(),
+                           optional<&T::ReadPermission>(), optional<&T::WritePermission>(),
+                           optional<&T::AuthenticationLevel>(), readOnly<&T::TypeGuid>(),
+                           readOnly<&T::TypePath>(), optional<&T::AccessLevel>(),
+                           optional<&T::SafetyType>()},
+            .children = {strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<Parameter, &Parameter::Name, &Parameter::TypeName>;
-  using LongForm = describe::Extended<Form, &Parameter::PXAttribute, &Parameter::Direction,
-                                      &Parameter::InitialValue, &Parameter::ReadPermission,
-                                      &Parameter::WritePermission, &Parameter::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
+  using LongForm = describe::Extended<Form, &T::PXAttribute, &T::Direction, &T::InitialValue,
+                                      &T::ReadPermission, &T::WritePermission, &T::Description>;
 };
 
 class Parameters final : public Collection<Parameters, Parameter> {
@@ -63,8 +59,8 @@ class Parameters final : public Collection<Parameters, Parameter> {
   static constexpr std::string_view kHelp = "Parameters, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<Parameter>();
-extern template const describe::ClassDescription& describe::Describe<Parameters>();
+extern template struct describe::Published<Parameter>;
+extern template struct describe::Published<Parameters>;
 
 }  // namespace praxen
 

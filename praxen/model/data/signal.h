@@ -16,22 +16,22 @@ class Signal final : public describe::Serializable<Signal> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&Signal::Name>("Name of the signal; required for writing."),
-        property<&Signal::Path>("Path of the signal."),
-        property<&Signal::Direction>("Direction as a free text, such as in or out."),
-        property<&Signal::AcknowledgeGroup>("Group in which the signal is acknowledged."),
-        property<&Signal::Description>("Free text."),
+        property<&T::Name>("Name of the signal."),
+        property<&T::Path>("Path of the signal."),
+        property<&T::Direction>("Direction as a free text, such as in or out."),
+        property<&T::AcknowledgeGroup>("Group in which the signal is acknowledged."),
+        property<&T::Description>("Free text."),
         serialize(),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&Signal::Name>(), always<&Signal::Path>(),
-                           always<&Signal::Direction>(), optional<&Signal::AcknowledgeGroup>()},
-            .children = {text<&Signal::Description>()}};
+    return {.attributes = {required<&T::Name>(), always<&T::Path>(), always<&T::Direction>(),
+                           optional<&T::AcknowledgeGroup>()},
+            .children = {text<&T::Description>()}};
   }
-  using Form = describe::Creation<Signal, &Signal::Name, &Signal::Path, &Signal::Direction,
-                                  describe::anyValue<&Signal::AcknowledgeGroup>>;
+  using Form = describe::Creation<T, &T::Name, &T::Path, &T::Direction,
+                                  describe::anyValue<&T::AcknowledgeGroup>>;
 };
 
 class Signals final : public Collection<Signals, Signal> {
@@ -39,8 +39,8 @@ class Signals final : public Collection<Signals, Signal> {
   static constexpr std::string_view kHelp = "Signals, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<Signal>();
-extern template const describe::ClassDescription& describe::Describe<Signals>();
+extern template struct describe::Published<Signal>;
+extern template struct describe::Published<Signals>;
 
 }  // namespace praxen
 

@@ -21,39 +21,36 @@ class Variable final : public describe::Serializable<Variable> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&Variable::Name>("Name of the variable; required for writing."),
-        property<&Variable::TypeName>("Data type; required for writing."),
-        property<&Variable::PXAttribute>("Attributes such as retain or constant."),
-        property<&Variable::InitialValue>("Value at start."),
-        property<&Variable::Description>("Free text."),
-        property<&Variable::ReadPermission>("Permission that reading needs."),
-        property<&Variable::WritePermission>("Permission that writing needs."),
-        property<&Variable::AuthenticationLevel>("Authentication that writing needs."),
-        property<&Variable::BatchProperty>("Meaning of the variable for batch control."),
-        property<&Variable::GraphNodes>("Graph nodes of the variable."),
-        property<&Variable::TypeGuid>("GUID of the data type, as the engineering tool found it."),
-        property<&Variable::TypePath>("Path of the data type, as the engineering tool found it."),
+        property<&T::Name>("Name of the variable."),
+        property<&T::TypeName>("Data type."),
+        property<&T::PXAttribute>("Attributes such as retain or constant."),
+        property<&T::InitialValue>("Value at start."),
+        property<&T::Description>("Free text."),
+        property<&T::ReadPermission>("Permission that reading needs."),
+        property<&T::WritePermission>("Permission that writing needs."),
+        property<&T::AuthenticationLevel>("Authentication that writing needs."),
+        property<&T::BatchProperty>("Meaning of the variable for batch control."),
+        property<&T::GraphNodes>("Graph nodes of the variable."),
+        property<&T::TypeGuid>("GUID of the data type."),
+        property<&T::TypePath>("Path of the data type."),
         serialize(),
-        property<&Variable::AccessLevel>("Access level for safety."),
-        property<&Variable::SafetyType>("Safety type."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = {required<&Variable::Name>(), required<&Variable::TypeName>(u"Type"),
-                       always<&Variable::PXAttribute>(u"Attribute"),
-                       optional<&Variable::InitialValue>(), optional<&Variable::ReadPermission>(),
-                       optional<&Variable::WritePermission>(),
-                       optional<&Variable::AuthenticationLevel>(), readOnly<&Variable::TypeGuid>(),
-                       readOnly<&Variable::TypePath>(), optional<&Variable::BatchProperty>(),
-                       optional<&Variable::AccessLevel>(), optional<&Variable::SafetyType>()},
-        .children = {text<&Variable::Description>(), items<&Variable::GraphNodes>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           always<&T::PXAttribute>(u"Attribute"), optional<&T::InitialValue>(),
+                           optional<&T::ReadPermission>(), optional<&T::WritePermission>(),
+                           optional<&T::AuthenticationLevel>(), readOnly<&T::TypeGuid>(),
+                           readOnly<&T::TypePath>(), optional<&T::BatchProperty>(),
+                           optional<&T::AccessLevel>(), optional<&T::SafetyType>()},
+            .children = {text<&T::Description>(), items<&T::GraphNodes>()}};
   }
-  using Form = describe::Creation<Variable, &Variable::Name, &Variable::TypeName>;
-  using LongForm = describe::Extended<Form, &Variable::PXAttribute, &Variable::InitialValue,
-                                      &Variable::ReadPermission, &Variable::WritePermission,
-                                      &Variable::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
+  using LongForm = describe::Extended<Form, &T::PXAttribute, &T::InitialValue, &T::ReadPermission,
+                                      &T::WritePermission, &T::Description>;
 };
 
 class Variables final : public Collection<Variables, Variable> {
@@ -62,8 +59,8 @@ class Variables final : public Collection<Variables, Variable> {
   static constexpr std::string_view kArgument = "var";
 };
 
-extern template const describe::ClassDescription& describe::Describe<Variable>();
-extern template const describe::ClassDescription& describe::Describe<Variables>();
+extern template struct describe::Published<Variable>;
+extern template struct describe::Published<Variables>;
 
 }  // namespace praxen
 

@@ -1,7 +1,6 @@
 // The connected variable of a channel, whose element also tells whether it is a signal.
 #include "praxen/model/hardware/hw_channel.h"
 
-#include "praxen/describe/define.h"
 #include "praxen/describe/xml_reading.h"
 #include "praxen/xml/xml_string_writer.h"
 
@@ -17,13 +16,12 @@ constexpr std::u16string_view kIsSignal = u"Signal";
 }  // namespace
 
 Layout HWChannel::layout() {
-  Child description = strictText<&HWChannel::IODescription>();
+  Child description = strictText<&T::IODescription>();
   description.always = true;
-  return {.attributes = {required<&HWChannel::Address>(), required<&HWChannel::Name>(),
-                         readOnly<&HWChannel::ChannelType>(), optional<&HWChannel::Min>(),
-                         optional<&HWChannel::Max>(), optional<&HWChannel::Unit>(),
-                         optional<&HWChannel::Fraction>(), optional<&HWChannel::Reversed>()},
-          .children = {custom<&HWChannel::WriteConnection, &HWChannel::ReadConnection>(
+  return {.attributes = {required<&T::Address>(), required<&T::Name>(), readOnly<&T::ChannelType>(),
+                         optional<&T::Min>(), optional<&T::Max>(), optional<&T::Unit>(),
+                         optional<&T::Fraction>(), optional<&T::Reversed>()},
+          .children = {custom<&T::WriteConnection, &T::ReadConnection>(
                            "The connected variable, and whether it is a signal.",
                            {{std::u16string(kConnection),
                              ElementShape::Content::Text,
@@ -44,8 +42,5 @@ void HWChannel::ReadConnection(XmlNode& cursor) {
   ConVariable = ReadTextElement(cursor, kConnection);
   cursor = cursor.nextSibling();
 }
-
-template const ClassDescription& describe::Describe<HWChannel>();
-template const ClassDescription& describe::Describe<HWChannels>();
 
 }  // namespace praxen

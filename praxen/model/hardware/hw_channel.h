@@ -18,25 +18,23 @@ class HWChannel final : public describe::Described<HWChannel> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&HWChannel::Name>("Name of the channel; required for writing."),
-        property<&HWChannel::Address>("Address of the channel; required for writing."),
-        property<&HWChannel::Min>("Smallest value."),
-        property<&HWChannel::Max>("Largest value."),
-        property<&HWChannel::Unit>("Unit of the value."),
-        property<&HWChannel::Fraction>("Number of decimals."),
-        property<&HWChannel::Reversed>("Whether the value is reversed."),
-        property<&HWChannel::ConVariable>("Variable or signal that is connected to the channel."),
-        property<&HWChannel::IODescription>("Free text."),
-        property<&HWChannel::ChannelType>("Type of the channel, as the engineering tool found it."),
-        property<&HWChannel::IsSignal>("Whether a signal is connected instead of a variable."),
+        property<&T::Name>("Name of the channel."),
+        property<&T::Address>("Address of the channel."),
+        property<&T::Min>("Smallest value."),
+        property<&T::Max>("Largest value."),
+        property<&T::Unit>("Unit of the value."),
+        property<&T::Fraction>("Number of decimals."),
+        property<&T::Reversed>("Whether the value is reversed."),
+        property<&T::ConVariable>("Variable or signal that is connected to the channel."),
+        property<&T::IODescription>("Free text."),
+        property<&T::ChannelType>("Type of the channel."),
+        property<&T::IsSignal>("Whether a signal is connected instead of a variable."),
     };
   }
   static describe::Layout layout();
-  static constexpr auto key() { return &HWChannel::Address; }
-  using Form = describe::Creation<HWChannel, &HWChannel::Address, &HWChannel::Name,
-                                  &HWChannel::ConVariable, &HWChannel::IODescription>;
-  using LongForm = describe::Extended<Form, &HWChannel::Min, &HWChannel::Max, &HWChannel::Unit,
-                                      &HWChannel::Fraction, &HWChannel::Reversed>;
+  static constexpr auto key() { return &T::Address; }
+  using Form = describe::Creation<T, &T::Address, &T::Name, &T::ConVariable, &T::IODescription>;
+  using LongForm = describe::Extended<Form, &T::Min, &T::Max, &T::Unit, &T::Fraction, &T::Reversed>;
 
  private:
   void WriteConnection(detail::XMLStringWriter& writer);
@@ -49,8 +47,8 @@ class HWChannels final : public Collection<HWChannels, HWChannel> {
   static constexpr std::string_view kArgument = "hwc";
 };
 
-extern template const describe::ClassDescription& describe::Describe<HWChannel>();
-extern template const describe::ClassDescription& describe::Describe<HWChannels>();
+extern template struct describe::Published<HWChannel>;
+extern template struct describe::Published<HWChannels>;
 
 }  // namespace praxen
 

@@ -24,54 +24,55 @@ class HWUnit final : public describe::Serializable<HWUnit> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&HWUnit::Path>("Position in the hardware tree; required for writing."),
-        property<&HWUnit::TypeID>("Identifier of the type."),
-        property<&HWUnit::TypeDescription>("Description of the type."),
-        property<&HWUnit::Guid>("GUID of the unit."),
-        property<&HWUnit::RedundantPos>("Position of the redundant unit."),
-        property<&HWUnit::HWSimulation>("Whether the unit is simulated."),
-        property<&HWUnit::HWSimulationSupported>("Whether the unit can be simulated."),
-        property<&HWUnit::ReservedByFunction>("Function that has reserved the unit."),
-        property<&HWUnit::ParameterSettings>("Parameter settings of the unit."),
-        property<&HWUnit::HWChannels>("Channels of the unit."),
-        property<&HWUnit::HWUnits>("Sub-units of the unit."),
+        property<&T::Path>("Position in the hardware tree."),
+        property<&T::TypeID>("Identifier of the type."),
+        property<&T::TypeDescription>("Description of the type."),
+        property<&T::Guid>("GUID of the unit."),
+        property<&T::RedundantPos>("Position of the redundant unit."),
+        property<&T::HWSimulation>("Whether the unit is simulated."),
+        property<&T::HWSimulationSupported>("Whether the unit can be simulated."),
+        property<&T::ReservedByFunction>("Function that has reserved the unit."),
+        property<&T::ParameterSettings>("Parameter settings of the unit."),
+        property<&T::HWChannels>("Channels of the unit."),
+        property<&T::HWUnits>("Sub-units of the unit."),
         serialize(),
-        property<&HWUnit::TypeGuid>("GUID of the type."),
-        property<&HWUnit::InstanceName>("Name of the unit."),
+        property<&T::TypeGuid>("GUID of the type."),
+        property<&T::InstanceName>("Name of the unit."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
     return {
-        .attributes = {required<&HWUnit::Path>(), always<&HWUnit::TypeID>(),
-                       always<&HWUnit::TypeDescription>(), optional<&HWUnit::Guid>(),
-                       optional<&HWUnit::TypeGuid>(), optional<&HWUnit::RedundantPos>(),
-                       optional<&HWUnit::HWSimulation>(),
-                       optional<&HWUnit::HWSimulationSupported>(),
-                       optional<&HWUnit::ReservedByFunction>(), optional<&HWUnit::InstanceName>()},
-        .children = {list<&HWUnit::ParameterSettings>(), list<&HWUnit::HWChannels>(),
-                     list<&HWUnit::HWUnits>()}};
+        .attributes = {required<&T::Path>(), always<&T::TypeID>(), always<&T::TypeDescription>(),
+                       optional<&T::Guid>(), optional<&T::TypeGuid>(), optional<&T::RedundantPos>(),
+                       optional<&T::HWSimulation>(), optional<&T::HWSimulationSupported>(),
+                       optional<&T::ReservedByFunction>(), optional<&T::InstanceName>()},
+        .children = {list<&T::ParameterSettings>(), list<&T::HWChannels>(), list<&T::HWUnits>()}};
   }
-  static constexpr auto key() { return &HWUnit::Path; }
-  using Form = describe::Creation<HWUnit, &HWUnit::Path>;
-  using LongForm =
-      describe::Extended<Form, &HWUnit::TypeID, &HWUnit::TypeDescription, &HWUnit::Guid>;
-  using FullForm = describe::Extended<LongForm, &HWUnit::TypeGuid>;
+  static constexpr auto key() { return &T::Path; }
+  using Form = describe::Creation<T, &T::Path>;
+  using LongForm = describe::Extended<Form, &T::TypeID, &T::TypeDescription, &T::Guid>;
+  using FullForm = describe::Extended<LongForm, &T::TypeGuid>;
 };
 
 class HWUnits final : public Collection<HWUnits, HWUnit> {
  public:
-  Ref<HWUnit> Add3(const Text& Path, const Text& TypeID, const Text& TypeDescription,
-                   const Text& Guid, const Text& TypeGuid);
+  Ref<HWUnit> Add3(const auto&... arguments) { return Create<HWUnit::FullForm>(arguments...); }
 
   static constexpr std::string_view kHelp = "Hardware units, in order.";
   static constexpr std::string_view kArgument = "hwu";
-  static describe::Members members();
-  static describe::Layout layout();
+  static describe::Members members() {
+    using namespace describe;
+    return additions() + lookups() + positions() + Members{creation<HWUnit::FullForm>("Add3")};
+  }
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.elements = {choice<HWUnit>()}, .container = Container::Always};
+  }
 };
 
-extern template const describe::ClassDescription& describe::Describe<HWUnits>();
-extern template const describe::ClassDescription& describe::Describe<HWUnit>();
+extern template struct describe::Published<HWUnits>;
+extern template struct describe::Published<HWUnit>;
 
 }  // namespace praxen
 

@@ -14,19 +14,17 @@ class ParameterSetting final : public describe::Described<ParameterSetting> {
   static constexpr std::string_view kHelp = "The value of a parameter of a hardware unit.";
   static describe::Members members() {
     using namespace describe;
-    return {property<&ParameterSetting::Name>("Name of the parameter; required for writing."),
-            property<&ParameterSetting::ParameterValue>("Value of the parameter."),
-            property<&ParameterSetting::Description>(
-                "Meaning of the parameter, as the engineering tool tells it.")};
+    return {
+        property<&T::Name>("Name of the parameter."),
+        property<&T::ParameterValue>("Value of the parameter."),
+        property<&T::Description>("Meaning of the parameter, as the engineering tool tells it.")};
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&ParameterSetting::Name>(),
-                           always<&ParameterSetting::ParameterValue>(u"Value"),
-                           readOnly<&ParameterSetting::Description>()}};
+    return {.attributes = {required<&T::Name>(), always<&T::ParameterValue>(u"Value"),
+                           readOnly<&T::Description>()}};
   }
-  using Form = describe::Creation<ParameterSetting, &ParameterSetting::Name,
-                                  &ParameterSetting::ParameterValue>;
+  using Form = describe::Creation<T, &T::Name, &T::ParameterValue>;
 };
 
 class ParameterSettings final : public Collection<ParameterSettings, ParameterSetting> {
@@ -39,8 +37,8 @@ class ParameterSettings final : public Collection<ParameterSettings, ParameterSe
   }
 };
 
-extern template const describe::ClassDescription& describe::Describe<ParameterSetting>();
-extern template const describe::ClassDescription& describe::Describe<ParameterSettings>();
+extern template struct describe::Published<ParameterSetting>;
+extern template struct describe::Published<ParameterSettings>;
 
 }  // namespace praxen
 

@@ -1,12 +1,9 @@
-// MessageBucket, the messages of a check, compilation or search, with all classes of messages.
+// MessageBucket, the messages of a check, compilation or search.
 #ifndef PRAXEN_MODEL_MESSAGES_MESSAGE_BUCKET_H_
 #define PRAXEN_MODEL_MESSAGES_MESSAGE_BUCKET_H_
 
 #include "praxen/model/collection.h"
-#include "praxen/model/messages/error_msg.h"
-#include "praxen/model/messages/find_msg.h"
-#include "praxen/model/messages/info_msg.h"
-#include "praxen/model/messages/warning_msg.h"
+#include "praxen/model/messages/message.h"
 
 namespace praxen {
 
@@ -17,11 +14,22 @@ class MessageBucket final : public Collection<MessageBucket, IMsg, SerializableO
 
   static constexpr std::string_view kHelp = "The messages of a check, compilation or search.";
   static constexpr std::string_view kArgument = "m";
-  static describe::Members members();
-  static describe::Layout layout();
+  static describe::Members members() {
+    using namespace describe;
+    return Members{property<&T::NoOfErrors>("Number of errors, as reported."),
+                   property<&T::NoOfWarnings>("Number of warnings, as reported."), serialize(),
+                   add()} +
+           positions();
+  }
+  static describe::Layout layout() {
+    using namespace describe;
+    return {.attributes = {always<&T::NoOfErrors>(), always<&T::NoOfWarnings>()},
+            .elements = IMsg::choices(),
+            .container = Container::Always};
+  }
 };
 
-extern template const describe::ClassDescription& describe::Describe<MessageBucket>();
+extern template struct describe::Published<MessageBucket>;
 
 }  // namespace praxen
 

@@ -2,7 +2,7 @@
 #ifndef PRAXEN_MODEL_POU_CM_CONNECTION_H_
 #define PRAXEN_MODEL_POU_CM_CONNECTION_H_
 
-#include "praxen/model/pou/point.h"
+#include "praxen/model/pou/graphics.h"
 
 namespace praxen {
 
@@ -16,23 +16,21 @@ class CMConnection final : public describe::Serializable<CMConnection> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&CMConnection::Name>("Name of the parameter; required for writing."),
-        property<&CMConnection::ActualParameter>("What the parameter is connected to."),
-        property<&CMConnection::GraphicalConnection>("Whether the connection is drawn."),
-        property<&CMConnection::Points>("Route of a drawn connection."),
+        property<&T::Name>("Name of the parameter."),
+        property<&T::ActualParameter>("What the parameter is connected to."),
+        property<&T::GraphicalConnection>("Whether the connection is drawn."),
+        property<&T::Points>("Route of a drawn connection."),
         serialize(),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = {required<&CMConnection::Name>(), always<&CMConnection::ActualParameter>(),
-                       optional<&CMConnection::GraphicalConnection>()},
-        .children = {items<&CMConnection::Points>()}};
+    return {.attributes = {required<&T::Name>(), always<&T::ActualParameter>(),
+                           optional<&T::GraphicalConnection>()},
+            .children = {items<&T::Points>()}};
   }
-  using Form =
-      describe::Creation<CMConnection, &CMConnection::Name, &CMConnection::ActualParameter>;
-  using LongForm = describe::Extended<Form, &CMConnection::GraphicalConnection>;
+  using Form = describe::Creation<T, &T::Name, &T::ActualParameter>;
+  using LongForm = describe::Extended<Form, &T::GraphicalConnection>;
 };
 
 class CMConnections final : public Collection<CMConnections, CMConnection> {
@@ -40,8 +38,8 @@ class CMConnections final : public Collection<CMConnections, CMConnection> {
   static constexpr std::string_view kHelp = "Connections of a control module, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<CMConnection>();
-extern template const describe::ClassDescription& describe::Describe<CMConnections>();
+extern template struct describe::Published<CMConnection>;
+extern template struct describe::Published<CMConnections>;
 
 }  // namespace praxen
 

@@ -8,7 +8,7 @@
 #include "praxen/model/pou/code_blocks.h"
 #include "praxen/model/pou/control_modules.h"
 #include "praxen/model/pou/function_block.h"
-#include "praxen/model/pou/graph_size.h"
+#include "praxen/model/pou/graphics.h"
 
 namespace praxen {
 
@@ -36,66 +36,53 @@ class ControlModuleType final : public describe::Serializable<ControlModuleType>
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&ControlModuleType::Name>("Name of the type; required for writing."),
-        property<&ControlModuleType::Protected>("Whether the type is protected."),
-        property<&ControlModuleType::Hidden>("Whether the type is hidden from users."),
-        property<&ControlModuleType::Scope>("Where the type can be used."),
-        property<&ControlModuleType::InteractionWindow>("Name of the interaction window."),
-        property<&ControlModuleType::AlarmOwner>(
-            "Whether the type owns the alarms of what it contains."),
-        property<&ControlModuleType::Guid>("GUID of the type."),
-        property<&ControlModuleType::BatchObject>("Meaning of the type for batch control."),
-        property<&ControlModuleType::SILLevel>("Safety integrity level as a text, such as NonSIL."),
-        property<&ControlModuleType::SimulationMark>("Whether the type is marked as simulated."),
-        property<&ControlModuleType::ReservedByFunction>("Function that the unit is reserved by."),
-        property<&ControlModuleType::Description>("Free text."),
-        property<&ControlModuleType::CMTypeGraphics>("Graphics of the type as a text."),
-        property<&ControlModuleType::CMParameters>("Parameters of the type."),
-        property<&ControlModuleType::Variables>("Variables of the type."),
-        property<&ControlModuleType::ExternalVariables>("External variables of the type."),
-        property<&ControlModuleType::FunctionBlocks>("Function blocks in the type."),
-        property<&ControlModuleType::ControlModules>("Control modules in the type."),
-        property<&ControlModuleType::CodeBlocks>("Code of the type."),
-        property<&ControlModuleType::GraphSize>("Size of the type's graphics."),
+        property<&T::Name>("Name of the type."),
+        property<&T::Protected>("Whether the type is protected."),
+        property<&T::Hidden>("Whether the type is hidden from users."),
+        property<&T::Scope>("Where the type can be used."),
+        property<&T::InteractionWindow>("Name of the interaction window."),
+        property<&T::AlarmOwner>("Whether the type owns the alarms of what it contains."),
+        property<&T::Guid>("GUID of the type."),
+        property<&T::BatchObject>("Meaning of the type for batch control."),
+        property<&T::SILLevel>("Safety integrity level as a text, such as NonSIL."),
+        property<&T::SimulationMark>("Whether the type is marked as simulated."),
+        property<&T::ReservedByFunction>("Function that the unit is reserved by."),
+        property<&T::Description>("Free text."),
+        property<&T::CMTypeGraphics>("Graphics of the type as a text."),
+        property<&T::CMParameters>("Parameters of the type."),
+        property<&T::Variables>("Variables of the type."),
+        property<&T::ExternalVariables>("External variables of the type."),
+        property<&T::FunctionBlocks>("Function blocks in the type."),
+        property<&T::ControlModules>("Control modules in the type."),
+        property<&T::CodeBlocks>("Code of the type."),
+        property<&T::GraphSize>("Size of the type's graphics."),
         serialize(),
-        property<&ControlModuleType::InstantiateAsAspectObject>(
-            "Whether instances become aspect objects."),
-        property<&ControlModuleType::EmbeddedGraphicsVisible>(
-            "Whether embedded graphics can be seen."),
-        property<&ControlModuleType::RestrictedSIL>(
+        property<&T::InstantiateAsAspectObject>("Whether instances become aspect objects."),
+        property<&T::EmbeddedGraphicsVisible>("Whether embedded graphics can be seen."),
+        property<&T::RestrictedSIL>(
             "Whether the type is restricted in its safety integrity level."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = POUHeader<ControlModuleType>(
-            {optional<&ControlModuleType::InteractionWindow>(),
-             optional<&ControlModuleType::AlarmOwner>(),
-             optional<&ControlModuleType::InstantiateAsAspectObject>(),
-             optional<&ControlModuleType::BatchObject>(), optional<&ControlModuleType::Guid>(),
-             optional<&ControlModuleType::SILLevel>(),
-             optional<&ControlModuleType::RestrictedSIL>(),
-             optional<&ControlModuleType::SimulationMark>(),
-             optional<&ControlModuleType::ReservedByFunction>(),
-             optional<&ControlModuleType::EmbeddedGraphicsVisible>()}),
-        .children = {
-            text<&ControlModuleType::CMTypeGraphics>(), list<&ControlModuleType::CMParameters>(),
-            list<&ControlModuleType::Variables>(), list<&ControlModuleType::ExternalVariables>(),
-            list<&ControlModuleType::FunctionBlocks>(), list<&ControlModuleType::ControlModules>(),
-            list<&ControlModuleType::CodeBlocks>(), text<&ControlModuleType::Description>(),
-            object<&ControlModuleType::GraphSize>()}};
+    return {.attributes = POUHeader<T>(
+                {optional<&T::InteractionWindow>(), optional<&T::AlarmOwner>(),
+                 optional<&T::InstantiateAsAspectObject>(), optional<&T::BatchObject>(),
+                 optional<&T::Guid>(), optional<&T::SILLevel>(), optional<&T::RestrictedSIL>(),
+                 optional<&T::SimulationMark>(), optional<&T::ReservedByFunction>(),
+                 optional<&T::EmbeddedGraphicsVisible>()}),
+            .children = {text<&T::CMTypeGraphics>(), list<&T::CMParameters>(),
+                         list<&T::Variables>(), list<&T::ExternalVariables>(),
+                         list<&T::FunctionBlocks>(), list<&T::ControlModules>(),
+                         list<&T::CodeBlocks>(), text<&T::Description>(), object<&T::GraphSize>()}};
   }
-  using Form = describe::Creation<ControlModuleType, &ControlModuleType::Name,
-                                  &ControlModuleType::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::Description>;
   using LongForm =
-      describe::Extended<Form, &ControlModuleType::Protected, &ControlModuleType::Hidden,
-                         &ControlModuleType::Scope, &ControlModuleType::InteractionWindow,
-                         &ControlModuleType::AlarmOwner, &ControlModuleType::Guid,
-                         &ControlModuleType::GraphSize>;
+      describe::Extended<Form, &T::Protected, &T::Hidden, &T::Scope, &T::InteractionWindow,
+                         &T::AlarmOwner, &T::Guid, &T::GraphSize>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<ControlModuleType>();
+extern template struct describe::Published<ControlModuleType>;
 
 }  // namespace praxen
 

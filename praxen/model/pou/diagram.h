@@ -33,51 +33,48 @@ class Diagram final : public describe::Serializable<Diagram> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&Diagram::Name>("Name of the diagram; required for writing."),
-        property<&Diagram::TaskConnection>("Name of the task that runs the diagram."),
-        property<&Diagram::TypeGuid>("GUID of the type."),
-        property<&Diagram::InstGuid>("GUID of the instance."),
-        property<&Diagram::Description>("Free text."),
-        property<&Diagram::SILLevel>("Safety integrity level as a text, such as NonSIL."),
-        property<&Diagram::RestrictedSIL>(
+        property<&T::Name>("Name of the diagram."),
+        property<&T::TaskConnection>("Name of the task that runs the diagram."),
+        property<&T::TypeGuid>("GUID of the type."),
+        property<&T::InstGuid>("GUID of the instance."),
+        property<&T::Description>("Free text."),
+        property<&T::SILLevel>("Safety integrity level as a text, such as NonSIL."),
+        property<&T::RestrictedSIL>(
             "Whether the diagram is restricted in its safety integrity level."),
-        property<&Diagram::SimulationMark>("Whether the diagram is marked as simulated."),
-        property<&Diagram::ReservedByFunction>("Function that the unit is reserved by."),
-        property<&Diagram::AccessLevel>("Access level for safety."),
-        property<&Diagram::SafetyType>("Safety type."),
-        property<&Diagram::Variables>("Variables of the diagram."),
-        property<&Diagram::CommVariables>("Communication variables of the diagram."),
-        property<&Diagram::FunctionBlocks>("Function blocks in the diagram."),
-        property<&Diagram::ControlModules>("Control modules in the diagram."),
-        property<&Diagram::InitValues>("Initial values of variables in the diagram."),
-        property<&Diagram::CodeBlocks>("Code of the diagram."),
+        property<&T::SimulationMark>("Whether the diagram is marked as simulated."),
+        property<&T::ReservedByFunction>("Function that the unit is reserved by."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
+        property<&T::Variables>("Variables of the diagram."),
+        property<&T::CommVariables>("Communication variables of the diagram."),
+        property<&T::FunctionBlocks>("Function blocks in the diagram."),
+        property<&T::ControlModules>("Control modules in the diagram."),
+        property<&T::InitValues>("Initial values of variables in the diagram."),
+        property<&T::CodeBlocks>("Code of the diagram."),
         serialize(),
-        property<&Diagram::DiagramInstances>("Diagram instances in the diagram."),
-        property<&Diagram::Signals>("Signals of the diagram."),
-        property<&Diagram::BatchObject>("Meaning of the diagram for batch control."),
+        property<&T::DiagramInstances>("Diagram instances in the diagram."),
+        property<&T::Signals>("Signals of the diagram."),
+        property<&T::BatchObject>("Meaning of the diagram for batch control."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
     return {
-        .attributes = {required<&Diagram::Name>(), optional<&Diagram::TaskConnection>(),
-                       optional<&Diagram::TypeGuid>(), optional<&Diagram::InstGuid>(),
-                       optional<&Diagram::SILLevel>(), optional<&Diagram::RestrictedSIL>(),
-                       optional<&Diagram::SimulationMark>(),
-                       optional<&Diagram::ReservedByFunction>(), optional<&Diagram::AccessLevel>(),
-                       optional<&Diagram::SafetyType>(), optional<&Diagram::BatchObject>()},
-        .children = {list<&Diagram::Variables>(), list<&Diagram::CommVariables>(),
-                     list<&Diagram::Signals>(), list<&Diagram::FunctionBlocks>(),
-                     list<&Diagram::ControlModules>(), list<&Diagram::DiagramInstances>(),
-                     list<&Diagram::InitValues>(), list<&Diagram::CodeBlocks>(),
-                     strictText<&Diagram::Description>()}};
+        .attributes = {required<&T::Name>(), optional<&T::TaskConnection>(),
+                       optional<&T::TypeGuid>(), optional<&T::InstGuid>(), optional<&T::SILLevel>(),
+                       optional<&T::RestrictedSIL>(), optional<&T::SimulationMark>(),
+                       optional<&T::ReservedByFunction>(), optional<&T::AccessLevel>(),
+                       optional<&T::SafetyType>(), optional<&T::BatchObject>()},
+        .children = {list<&T::Variables>(), list<&T::CommVariables>(), list<&T::Signals>(),
+                     list<&T::FunctionBlocks>(), list<&T::ControlModules>(),
+                     list<&T::DiagramInstances>(), list<&T::InitValues>(), list<&T::CodeBlocks>(),
+                     strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<Diagram, &Diagram::Name, &Diagram::Description>;
-  using LongForm =
-      describe::Extended<Form, &Diagram::TaskConnection, &Diagram::TypeGuid, &Diagram::InstGuid>;
+  using Form = describe::Creation<T, &T::Name, &T::Description>;
+  using LongForm = describe::Extended<Form, &T::TaskConnection, &T::TypeGuid, &T::InstGuid>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<Diagram>();
+extern template struct describe::Published<Diagram>;
 
 }  // namespace praxen
 

@@ -17,36 +17,30 @@ class DiagramInstance final : public describe::Serializable<DiagramInstance> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&DiagramInstance::Name>("Name of the instance; required for writing."),
-        property<&DiagramInstance::TypeName>("Diagram type; required for writing."),
-        property<&DiagramInstance::Guid>("GUID of the instance."),
-        property<&DiagramInstance::Description>("Free text."),
-        property<&DiagramInstance::AspectObject>("Whether the instance is an aspect object."),
-        property<&DiagramInstance::ExposePropertiesInParent>(
+        property<&T::Name>("Name of the instance."),
+        property<&T::TypeName>("Diagram type."),
+        property<&T::Guid>("GUID of the instance."),
+        property<&T::Description>("Free text."),
+        property<&T::AspectObject>("Whether the instance is an aspect object."),
+        property<&T::ExposePropertiesInParent>(
             "Whether the parent shows the properties of the instance."),
-        property<&DiagramInstance::AccessLevel>("Access level for safety."),
-        property<&DiagramInstance::SafetyType>("Safety type."),
-        property<&DiagramInstance::TypeGuid>("GUID of the type, as the engineering tool found it."),
-        property<&DiagramInstance::TypePath>("Path of the type, as the engineering tool found it."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
+        property<&T::TypeGuid>("GUID of the type."),
+        property<&T::TypePath>("Path of the type."),
         serialize(),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = {required<&DiagramInstance::Name>(),
-                       required<&DiagramInstance::TypeName>(u"Type"),
-                       optional<&DiagramInstance::Guid>(), readOnly<&DiagramInstance::TypeGuid>(),
-                       readOnly<&DiagramInstance::TypePath>(),
-                       optional<&DiagramInstance::AspectObject>(),
-                       optional<&DiagramInstance::ExposePropertiesInParent>(),
-                       optional<&DiagramInstance::AccessLevel>(),
-                       optional<&DiagramInstance::SafetyType>()},
-        .children = {strictText<&DiagramInstance::Description>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           optional<&T::Guid>(), readOnly<&T::TypeGuid>(), readOnly<&T::TypePath>(),
+                           optional<&T::AspectObject>(), optional<&T::ExposePropertiesInParent>(),
+                           optional<&T::AccessLevel>(), optional<&T::SafetyType>()},
+            .children = {strictText<&T::Description>()}};
   }
-  using Form =
-      describe::Creation<DiagramInstance, &DiagramInstance::Name, &DiagramInstance::TypeName>;
-  using LongForm = describe::Extended<Form, &DiagramInstance::Guid, &DiagramInstance::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
+  using LongForm = describe::Extended<Form, &T::Guid, &T::Description>;
 };
 
 class DiagramInstances final : public Collection<DiagramInstances, DiagramInstance> {
@@ -54,8 +48,8 @@ class DiagramInstances final : public Collection<DiagramInstances, DiagramInstan
   static constexpr std::string_view kHelp = "Diagram instances, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<DiagramInstance>();
-extern template const describe::ClassDescription& describe::Describe<DiagramInstances>();
+extern template struct describe::Published<DiagramInstance>;
+extern template struct describe::Published<DiagramInstances>;
 
 }  // namespace praxen
 

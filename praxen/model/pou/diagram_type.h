@@ -36,53 +36,47 @@ class DiagramType final : public describe::Serializable<DiagramType> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&DiagramType::Name>("Name of the type; required for writing."),
-        property<&DiagramType::Protected>("Whether the type is protected."),
-        property<&DiagramType::Hidden>("Whether the type is hidden from users."),
-        property<&DiagramType::Scope>("Where the type can be used."),
-        property<&DiagramType::AlarmOwner>("Whether the type owns the alarms of what it contains."),
-        property<&DiagramType::Guid>("GUID of the type."),
-        property<&DiagramType::InstantiateAsAspectObject>(
-            "Whether instances become aspect objects."),
-        property<&DiagramType::SILLevel>("Safety integrity level as a text, such as NonSIL."),
-        property<&DiagramType::RestrictedSIL>(
+        property<&T::Name>("Name of the type."),
+        property<&T::Protected>("Whether the type is protected."),
+        property<&T::Hidden>("Whether the type is hidden from users."),
+        property<&T::Scope>("Where the type can be used."),
+        property<&T::AlarmOwner>("Whether the type owns the alarms of what it contains."),
+        property<&T::Guid>("GUID of the type."),
+        property<&T::InstantiateAsAspectObject>("Whether instances become aspect objects."),
+        property<&T::SILLevel>("Safety integrity level as a text, such as NonSIL."),
+        property<&T::RestrictedSIL>(
             "Whether the type is restricted in its safety integrity level."),
-        property<&DiagramType::SimulationMark>("Whether the type is marked as simulated."),
-        property<&DiagramType::ReservedByFunction>("Function that the unit is reserved by."),
-        property<&DiagramType::EmbeddedGraphicsVisible>("Whether embedded graphics can be seen."),
-        property<&DiagramType::Description>("Free text."),
-        property<&DiagramType::Parameters>("Parameters of the type."),
-        property<&DiagramType::Variables>("Variables of the type."),
-        property<&DiagramType::FunctionBlocks>("Function blocks in the type."),
-        property<&DiagramType::ControlModules>("Control modules in the type."),
-        property<&DiagramType::DiagramInstances>("Diagram instances in the type."),
-        property<&DiagramType::CodeBlocks>("Code of the type."),
+        property<&T::SimulationMark>("Whether the type is marked as simulated."),
+        property<&T::ReservedByFunction>("Function that the unit is reserved by."),
+        property<&T::EmbeddedGraphicsVisible>("Whether embedded graphics can be seen."),
+        property<&T::Description>("Free text."),
+        property<&T::Parameters>("Parameters of the type."),
+        property<&T::Variables>("Variables of the type."),
+        property<&T::FunctionBlocks>("Function blocks in the type."),
+        property<&T::ControlModules>("Control modules in the type."),
+        property<&T::DiagramInstances>("Diagram instances in the type."),
+        property<&T::CodeBlocks>("Code of the type."),
         serialize(),
-        property<&DiagramType::BatchObject>("Meaning of the type for batch control."),
+        property<&T::BatchObject>("Meaning of the type for batch control."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = POUHeader<DiagramType>(
-            {optional<&DiagramType::AlarmOwner>(),
-             optional<&DiagramType::InstantiateAsAspectObject>(),
-             optional<&DiagramType::BatchObject>(), optional<&DiagramType::Guid>(),
-             optional<&DiagramType::SILLevel>(), optional<&DiagramType::RestrictedSIL>(),
-             optional<&DiagramType::SimulationMark>(), optional<&DiagramType::ReservedByFunction>(),
-             optional<&DiagramType::EmbeddedGraphicsVisible>()}),
-        .children = {list<&DiagramType::Parameters>(), list<&DiagramType::Variables>(),
-                     list<&DiagramType::FunctionBlocks>(), list<&DiagramType::ControlModules>(),
-                     list<&DiagramType::DiagramInstances>(), list<&DiagramType::CodeBlocks>(),
-                     strictText<&DiagramType::Description>()}};
+    return {.attributes = POUHeader<T>(
+                {optional<&T::AlarmOwner>(), optional<&T::InstantiateAsAspectObject>(),
+                 optional<&T::BatchObject>(), optional<&T::Guid>(), optional<&T::SILLevel>(),
+                 optional<&T::RestrictedSIL>(), optional<&T::SimulationMark>(),
+                 optional<&T::ReservedByFunction>(), optional<&T::EmbeddedGraphicsVisible>()}),
+            .children = {list<&T::Parameters>(), list<&T::Variables>(), list<&T::FunctionBlocks>(),
+                         list<&T::ControlModules>(), list<&T::DiagramInstances>(),
+                         list<&T::CodeBlocks>(), strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<DiagramType, &DiagramType::Name, &DiagramType::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::Description>;
   using LongForm =
-      describe::Extended<Form, &DiagramType::Protected, &DiagramType::Hidden, &DiagramType::Scope,
-                         &DiagramType::AlarmOwner, &DiagramType::Guid>;
+      describe::Extended<Form, &T::Protected, &T::Hidden, &T::Scope, &T::AlarmOwner, &T::Guid>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<DiagramType>();
+extern template struct describe::Published<DiagramType>;
 
 }  // namespace praxen
 

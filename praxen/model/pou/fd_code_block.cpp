@@ -1,7 +1,6 @@
 // The diagram of an FDCodeBlock as markup.
 #include "praxen/model/pou/fd_code_block.h"
 
-#include "praxen/describe/define.h"
 #include "praxen/xml/xml_document.h"
 #include "praxen/xml/xml_string_writer.h"
 
@@ -10,10 +9,10 @@ namespace praxen {
 using namespace detail;
 
 Layout FDCodeBlock::layout() {
-  Child diagram = custom<&FDCodeBlock::WriteDiagram, &FDCodeBlock::ReadDiagram>(
+  Child diagram = custom<&T::WriteDiagram, &T::ReadDiagram>(
       "The element of the function diagram, of any name and content.", {});
   diagram.isMarkup = true;
-  return {.attributes = {required<&FDCodeBlock::Name>()}, .children = {diagram}};
+  return {.attributes = {required<&T::Name>()}, .children = {diagram}};
 }
 
 void FDCodeBlock::WriteDiagram(XMLStringWriter& writer) { writer.WriteXMLElementValue(FDAsXMLStr); }
@@ -23,7 +22,5 @@ void FDCodeBlock::ReadDiagram(XmlNode& cursor) {
   FDAsXMLStr = cursor.Markup();
   cursor = cursor.nextSibling();
 }
-
-template const ClassDescription& describe::Describe<FDCodeBlock>();
 
 }  // namespace praxen

@@ -6,7 +6,7 @@
 
 namespace praxen {
 
-class FDCodeBlock final : public CodeBlock<FDCodeBlock> {
+class FDCodeBlock final : public describe::Described<FDCodeBlock, ICodeBlock> {
  public:
   Text Name;
   /// One element with its content; written as it is, whether it is well-formed or not.
@@ -15,9 +15,8 @@ class FDCodeBlock final : public CodeBlock<FDCodeBlock> {
   static constexpr std::string_view kHelp = "A code block that holds a function diagram.";
   static describe::Members members() {
     using namespace describe;
-    return {property<&FDCodeBlock::Name>("Name of the code block; required for writing."),
-            propertyPutFirst<&FDCodeBlock::FDAsXMLStr>("The diagram as one XML element."),
-            serialize()};
+    return {property<&T::Name>("Name of the code block."),
+            propertyPutFirst<&T::FDAsXMLStr>("The diagram as one XML element."), serialize()};
   }
   static describe::Layout layout();
 
@@ -26,7 +25,7 @@ class FDCodeBlock final : public CodeBlock<FDCodeBlock> {
   void ReadDiagram(detail::XmlNode& cursor);
 };
 
-extern template const describe::ClassDescription& describe::Describe<FDCodeBlock>();
+extern template struct describe::Published<FDCodeBlock>;
 
 }  // namespace praxen
 

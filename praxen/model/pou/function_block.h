@@ -18,37 +18,32 @@ class FunctionBlock final : public describe::Serializable<FunctionBlock> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&FunctionBlock::Name>("Name of the function block; required for writing."),
-        property<&FunctionBlock::TypeName>("Function block type; required for writing."),
-        property<&FunctionBlock::TaskConnection>("Name of the task that runs the function block."),
-        property<&FunctionBlock::Guid>("GUID of the instance."),
-        property<&FunctionBlock::Description>("Free text."),
-        property<&FunctionBlock::TypeGuid>("GUID of the type, as the engineering tool found it."),
-        property<&FunctionBlock::TypePath>("Path of the type, as the engineering tool found it."),
+        property<&T::Name>("Name of the function block."),
+        property<&T::TypeName>("Function block type."),
+        property<&T::TaskConnection>("Name of the task that runs the function block."),
+        property<&T::Guid>("GUID of the instance."),
+        property<&T::Description>("Free text."),
+        property<&T::TypeGuid>("GUID of the type."),
+        property<&T::TypePath>("Path of the type."),
         serialize(),
-        property<&FunctionBlock::AspectObject>("Whether the instance is an aspect object."),
-        property<&FunctionBlock::AccessLevel>("Access level for safety."),
-        property<&FunctionBlock::SafetyType>("Safety type."),
-        property<&FunctionBlock::ExposePropertiesInParent>(
+        property<&T::AspectObject>("Whether the instance is an aspect object."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
+        property<&T::ExposePropertiesInParent>(
             "Whether the parent shows the properties of the instance."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {
-        .attributes = {required<&FunctionBlock::Name>(),
-                       required<&FunctionBlock::TypeName>(u"Type"),
-                       optional<&FunctionBlock::TaskConnection>(), optional<&FunctionBlock::Guid>(),
-                       readOnly<&FunctionBlock::TypeGuid>(), readOnly<&FunctionBlock::TypePath>(),
-                       optional<&FunctionBlock::AspectObject>(),
-                       optional<&FunctionBlock::ExposePropertiesInParent>(),
-                       optional<&FunctionBlock::AccessLevel>(),
-                       optional<&FunctionBlock::SafetyType>()},
-        .children = {strictText<&FunctionBlock::Description>()}};
+    return {.attributes = {required<&T::Name>(), required<&T::TypeName>(u"Type"),
+                           optional<&T::TaskConnection>(), optional<&T::Guid>(),
+                           readOnly<&T::TypeGuid>(), readOnly<&T::TypePath>(),
+                           optional<&T::AspectObject>(), optional<&T::ExposePropertiesInParent>(),
+                           optional<&T::AccessLevel>(), optional<&T::SafetyType>()},
+            .children = {strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<FunctionBlock, &FunctionBlock::Name, &FunctionBlock::TypeName>;
-  using LongForm = describe::Extended<Form, &FunctionBlock::TaskConnection, &FunctionBlock::Guid,
-                                      &FunctionBlock::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::TypeName>;
+  using LongForm = describe::Extended<Form, &T::TaskConnection, &T::Guid, &T::Description>;
 };
 
 class FunctionBlocks final : public Collection<FunctionBlocks, FunctionBlock> {
@@ -56,8 +51,8 @@ class FunctionBlocks final : public Collection<FunctionBlocks, FunctionBlock> {
   static constexpr std::string_view kHelp = "Function blocks, in order.";
 };
 
-extern template const describe::ClassDescription& describe::Describe<FunctionBlock>();
-extern template const describe::ClassDescription& describe::Describe<FunctionBlocks>();
+extern template struct describe::Published<FunctionBlock>;
+extern template struct describe::Published<FunctionBlocks>;
 
 }  // namespace praxen
 

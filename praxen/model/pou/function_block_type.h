@@ -36,63 +36,50 @@ class FunctionBlockType final : public describe::Serializable<FunctionBlockType>
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&FunctionBlockType::Name>("Name of the type; required for writing."),
-        property<&FunctionBlockType::Protected>("Whether the type is protected."),
-        property<&FunctionBlockType::Hidden>("Whether the type is hidden from users."),
-        property<&FunctionBlockType::Scope>("Where the type can be used."),
-        property<&FunctionBlockType::InteractionWindow>("Name of the interaction window."),
-        property<&FunctionBlockType::AlarmOwner>(
-            "Whether the type owns the alarms of what it contains."),
-        property<&FunctionBlockType::Guid>("GUID of the type."),
-        property<&FunctionBlockType::SILLevel>("Safety integrity level as a text, such as NonSIL."),
-        property<&FunctionBlockType::SimulationMark>("Whether the type is marked as simulated."),
-        property<&FunctionBlockType::ReservedByFunction>("Function that the unit is reserved by."),
-        property<&FunctionBlockType::Description>("Free text."),
-        property<&FunctionBlockType::Parameters>("Parameters of the type."),
-        property<&FunctionBlockType::ExtensibleParameters>("Extensible parameters of the type."),
-        property<&FunctionBlockType::Variables>("Variables of the type."),
-        property<&FunctionBlockType::ExternalVariables>("External variables of the type."),
-        property<&FunctionBlockType::FunctionBlocks>("Function blocks in the type."),
-        property<&FunctionBlockType::ControlModules>("Control modules in the type."),
-        property<&FunctionBlockType::CodeBlocks>("Code of the type."),
+        property<&T::Name>("Name of the type."),
+        property<&T::Protected>("Whether the type is protected."),
+        property<&T::Hidden>("Whether the type is hidden from users."),
+        property<&T::Scope>("Where the type can be used."),
+        property<&T::InteractionWindow>("Name of the interaction window."),
+        property<&T::AlarmOwner>("Whether the type owns the alarms of what it contains."),
+        property<&T::Guid>("GUID of the type."),
+        property<&T::SILLevel>("Safety integrity level as a text, such as NonSIL."),
+        property<&T::SimulationMark>("Whether the type is marked as simulated."),
+        property<&T::ReservedByFunction>("Function that the unit is reserved by."),
+        property<&T::Description>("Free text."),
+        property<&T::Parameters>("Parameters of the type."),
+        property<&T::ExtensibleParameters>("Extensible parameters of the type."),
+        property<&T::Variables>("Variables of the type."),
+        property<&T::ExternalVariables>("External variables of the type."),
+        property<&T::FunctionBlocks>("Function blocks in the type."),
+        property<&T::ControlModules>("Control modules in the type."),
+        property<&T::CodeBlocks>("Code of the type."),
         serialize(),
-        property<&FunctionBlockType::InstantiateAsAspectObject>(
-            "Whether instances become aspect objects."),
-        property<&FunctionBlockType::EmbeddedGraphicsVisible>(
-            "Whether embedded graphics can be seen."),
-        property<&FunctionBlockType::RestrictedSIL>(
+        property<&T::InstantiateAsAspectObject>("Whether instances become aspect objects."),
+        property<&T::EmbeddedGraphicsVisible>("Whether embedded graphics can be seen."),
+        property<&T::RestrictedSIL>(
             "Whether the type is restricted in its safety integrity level."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = POUHeader<FunctionBlockType>(
-                {optional<&FunctionBlockType::InteractionWindow>(),
-                 optional<&FunctionBlockType::AlarmOwner>(),
-                 optional<&FunctionBlockType::InstantiateAsAspectObject>(),
-                 optional<&FunctionBlockType::Guid>(), optional<&FunctionBlockType::SILLevel>(),
-                 optional<&FunctionBlockType::RestrictedSIL>(),
-                 optional<&FunctionBlockType::SimulationMark>(),
-                 optional<&FunctionBlockType::ReservedByFunction>(),
-                 optional<&FunctionBlockType::EmbeddedGraphicsVisible>()}),
-            .children = {list<&FunctionBlockType::Parameters>(),
-                         list<&FunctionBlockType::ExtensibleParameters>(),
-                         list<&FunctionBlockType::Variables>(),
-                         list<&FunctionBlockType::ExternalVariables>(),
-                         list<&FunctionBlockType::FunctionBlocks>(),
-                         listUnlessEmpty<&FunctionBlockType::ControlModules>(),
-                         list<&FunctionBlockType::CodeBlocks>(),
-                         strictText<&FunctionBlockType::Description>()}};
+    return {.attributes =
+                POUHeader<T>({optional<&T::InteractionWindow>(), optional<&T::AlarmOwner>(),
+                              optional<&T::InstantiateAsAspectObject>(), optional<&T::Guid>(),
+                              optional<&T::SILLevel>(), optional<&T::RestrictedSIL>(),
+                              optional<&T::SimulationMark>(), optional<&T::ReservedByFunction>(),
+                              optional<&T::EmbeddedGraphicsVisible>()}),
+            .children = {list<&T::Parameters>(), list<&T::ExtensibleParameters>(),
+                         list<&T::Variables>(), list<&T::ExternalVariables>(),
+                         list<&T::FunctionBlocks>(), listUnlessEmpty<&T::ControlModules>(),
+                         list<&T::CodeBlocks>(), strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<FunctionBlockType, &FunctionBlockType::Name,
-                                  &FunctionBlockType::Description>;
-  using LongForm =
-      describe::Extended<Form, &FunctionBlockType::Protected, &FunctionBlockType::Hidden,
-                         &FunctionBlockType::Scope, &FunctionBlockType::InteractionWindow,
-                         &FunctionBlockType::AlarmOwner, &FunctionBlockType::Guid>;
+  using Form = describe::Creation<T, &T::Name, &T::Description>;
+  using LongForm = describe::Extended<Form, &T::Protected, &T::Hidden, &T::Scope,
+                                      &T::InteractionWindow, &T::AlarmOwner, &T::Guid>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<FunctionBlockType>();
+extern template struct describe::Published<FunctionBlockType>;
 
 }  // namespace praxen
 

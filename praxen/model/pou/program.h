@@ -29,43 +29,41 @@ class Program final : public describe::Serializable<Program> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&Program::Name>("Name of the program; required for writing."),
-        property<&Program::TaskConnection>("Name of the task that runs the program."),
-        property<&Program::TypeGuid>("GUID of the type."),
-        property<&Program::InstGuid>("GUID of the instance."),
-        property<&Program::Description>("Free text."),
-        property<&Program::SILLevel>("Safety integrity level as a text, such as NonSIL."),
-        property<&Program::SimulationMark>("Whether the program is marked as simulated."),
-        property<&Program::ReservedByFunction>("Function that the unit is reserved by."),
-        property<&Program::Variables>("Variables of the program."),
-        property<&Program::FunctionBlocks>("Function blocks in the program."),
-        property<&Program::CodeBlocks>("Code of the program."),
+        property<&T::Name>("Name of the program."),
+        property<&T::TaskConnection>("Name of the task that runs the program."),
+        property<&T::TypeGuid>("GUID of the type."),
+        property<&T::InstGuid>("GUID of the instance."),
+        property<&T::Description>("Free text."),
+        property<&T::SILLevel>("Safety integrity level as a text, such as NonSIL."),
+        property<&T::SimulationMark>("Whether the program is marked as simulated."),
+        property<&T::ReservedByFunction>("Function that the unit is reserved by."),
+        property<&T::Variables>("Variables of the program."),
+        property<&T::FunctionBlocks>("Function blocks in the program."),
+        property<&T::CodeBlocks>("Code of the program."),
         serialize(),
-        property<&Program::AccessLevel>("Access level for safety."),
-        property<&Program::SafetyType>("Safety type."),
-        property<&Program::CommVariables>("Communication variables of the program."),
-        property<&Program::InitValues>("Initial values of variables in the program."),
-        property<&Program::Signals>("Signals of the program."),
+        property<&T::AccessLevel>("Access level for safety."),
+        property<&T::SafetyType>("Safety type."),
+        property<&T::CommVariables>("Communication variables of the program."),
+        property<&T::InitValues>("Initial values of variables in the program."),
+        property<&T::Signals>("Signals of the program."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&Program::Name>(), optional<&Program::TaskConnection>(),
-                           optional<&Program::TypeGuid>(), optional<&Program::InstGuid>(),
-                           optional<&Program::SILLevel>(), optional<&Program::SimulationMark>(),
-                           optional<&Program::ReservedByFunction>(),
-                           optional<&Program::AccessLevel>(), optional<&Program::SafetyType>()},
-            .children = {list<&Program::Variables>(), list<&Program::CommVariables>(),
-                         list<&Program::Signals>(), list<&Program::FunctionBlocks>(),
-                         list<&Program::InitValues>(), list<&Program::CodeBlocks>(),
-                         strictText<&Program::Description>()}};
+    return {
+        .attributes = {required<&T::Name>(), optional<&T::TaskConnection>(),
+                       optional<&T::TypeGuid>(), optional<&T::InstGuid>(), optional<&T::SILLevel>(),
+                       optional<&T::SimulationMark>(), optional<&T::ReservedByFunction>(),
+                       optional<&T::AccessLevel>(), optional<&T::SafetyType>()},
+        .children = {list<&T::Variables>(), list<&T::CommVariables>(), list<&T::Signals>(),
+                     list<&T::FunctionBlocks>(), list<&T::InitValues>(), list<&T::CodeBlocks>(),
+                     strictText<&T::Description>()}};
   }
-  using Form = describe::Creation<Program, &Program::Name, &Program::Description>;
-  using LongForm =
-      describe::Extended<Form, &Program::TaskConnection, &Program::TypeGuid, &Program::InstGuid>;
+  using Form = describe::Creation<T, &T::Name, &T::Description>;
+  using LongForm = describe::Extended<Form, &T::TaskConnection, &T::TypeGuid, &T::InstGuid>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<Program>();
+extern template struct describe::Published<Program>;
 
 }  // namespace praxen
 

@@ -7,7 +7,7 @@
 
 namespace praxen {
 
-class SFCCodeBlock final : public CodeBlock<SFCCodeBlock> {
+class SFCCodeBlock final : public describe::Described<SFCCodeBlock, ICodeBlock> {
  public:
   Text Name;
   bool SeqControl = true, StepElapsedTime = false, SFCViewerAspect = false;
@@ -16,26 +16,24 @@ class SFCCodeBlock final : public CodeBlock<SFCCodeBlock> {
   static constexpr std::string_view kHelp = "A code block with a sequential function chart.";
   static describe::Members members() {
     using namespace describe;
-    return {property<&SFCCodeBlock::Name>("Name of the code block; required for writing."),
-            property<&SFCCodeBlock::SeqControl>("Whether the chart has sequence control."),
-            property<&SFCCodeBlock::StepElapsedTime>("Whether steps show their elapsed time."),
-            property<&SFCCodeBlock::SFCViewerAspect>("Whether the chart has a viewer aspect."),
-            property<&SFCCodeBlock::SFCElements>("The top-level sequence of the chart."),
+    return {property<&T::Name>("Name of the code block."),
+            property<&T::SeqControl>("Whether the chart has sequence control."),
+            property<&T::StepElapsedTime>("Whether steps show their elapsed time."),
+            property<&T::SFCViewerAspect>("Whether the chart has a viewer aspect."),
+            property<&T::SFCElements>("The top-level sequence of the chart."),
             serialize()};
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&SFCCodeBlock::Name>(), optional<&SFCCodeBlock::SeqControl>(),
-                           optional<&SFCCodeBlock::StepElapsedTime>(),
-                           optional<&SFCCodeBlock::SFCViewerAspect>()},
-            .children = {items<&SFCCodeBlock::SFCElements>()}};
+    return {.attributes = {required<&T::Name>(), optional<&T::SeqControl>(),
+                           optional<&T::StepElapsedTime>(), optional<&T::SFCViewerAspect>()},
+            .children = {items<&T::SFCElements>()}};
   }
-  using Form = describe::Creation<SFCCodeBlock, &SFCCodeBlock::Name>;
-  using LongForm =
-      describe::Extended<Form, &SFCCodeBlock::SeqControl, &SFCCodeBlock::StepElapsedTime>;
+  using Form = describe::Creation<T, &T::Name>;
+  using LongForm = describe::Extended<Form, &T::SeqControl, &T::StepElapsedTime>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<SFCCodeBlock>();
+extern template struct describe::Published<SFCCodeBlock>;
 
 }  // namespace praxen
 

@@ -11,7 +11,7 @@
 #include "praxen/model/pou/code_blocks.h"
 #include "praxen/model/pou/control_modules.h"
 #include "praxen/model/pou/function_block.h"
-#include "praxen/model/pou/graph_size.h"
+#include "praxen/model/pou/graphics.h"
 
 namespace praxen {
 
@@ -41,75 +41,50 @@ class SingleControlModuleType final : public describe::Serializable<SingleContro
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&SingleControlModuleType::Name>(
-            "Name of the control module; required for writing."),
-        property<&SingleControlModuleType::InteractionWindow>("Name of the interaction window."),
-        property<&SingleControlModuleType::AlarmOwner>(
-            "Whether the control module owns the alarms of what it contains."),
-        property<&SingleControlModuleType::TypeGuid>("GUID of the type."),
-        property<&SingleControlModuleType::BatchObject>(
-            "Meaning of the control module for batch control."),
-        property<&SingleControlModuleType::SILLevel>(
-            "Safety integrity level as a text, such as NonSIL."),
-        property<&SingleControlModuleType::SimulationMark>(
-            "Whether the control module is marked as simulated."),
-        property<&SingleControlModuleType::ReservedByFunction>(
-            "Function that the unit is reserved by."),
-        property<&SingleControlModuleType::Description>("Free text."),
-        property<&SingleControlModuleType::CMTypeGraphics>("Graphics of the type as a text."),
-        property<&SingleControlModuleType::CMParameters>("Parameters of the control module."),
-        property<&SingleControlModuleType::Variables>("Variables of the control module."),
-        property<&SingleControlModuleType::ExternalVariables>(
-            "External variables of the control module."),
-        property<&SingleControlModuleType::FunctionBlocks>(
-            "Function blocks in the control module."),
-        property<&SingleControlModuleType::ControlModules>(
-            "Control modules in the control module."),
-        property<&SingleControlModuleType::CodeBlocks>("Code of the control module."),
-        property<&SingleControlModuleType::GraphSize>("Size of the type's graphics."),
+        property<&T::Name>("Name of the control module."),
+        property<&T::InteractionWindow>("Name of the interaction window."),
+        property<&T::AlarmOwner>("Whether the control module owns the alarms of what it contains."),
+        property<&T::TypeGuid>("GUID of the type."),
+        property<&T::BatchObject>("Meaning of the control module for batch control."),
+        property<&T::SILLevel>("Safety integrity level as a text, such as NonSIL."),
+        property<&T::SimulationMark>("Whether the control module is marked as simulated."),
+        property<&T::ReservedByFunction>("Function that the unit is reserved by."),
+        property<&T::Description>("Free text."),
+        property<&T::CMTypeGraphics>("Graphics of the type as a text."),
+        property<&T::CMParameters>("Parameters of the control module."),
+        property<&T::Variables>("Variables of the control module."),
+        property<&T::ExternalVariables>("External variables of the control module."),
+        property<&T::FunctionBlocks>("Function blocks in the control module."),
+        property<&T::ControlModules>("Control modules in the control module."),
+        property<&T::CodeBlocks>("Code of the control module."),
+        property<&T::GraphSize>("Size of the type's graphics."),
         serialize(),
-        property<&SingleControlModuleType::RestrictedSIL>(
+        property<&T::RestrictedSIL>(
             "Whether the control module is restricted in its safety integrity level."),
-        property<&SingleControlModuleType::CommVariables>(
-            "Communication variables of the control module."),
-        property<&SingleControlModuleType::InitValues>(
-            "Initial values of variables in the control module."),
-        property<&SingleControlModuleType::Signals>("Signals of the control module."),
+        property<&T::CommVariables>("Communication variables of the control module."),
+        property<&T::InitValues>("Initial values of variables in the control module."),
+        property<&T::Signals>("Signals of the control module."),
     };
   }
   static describe::Layout layout() {
     using namespace describe;
-    return {.attributes = {required<&SingleControlModuleType::Name>(),
-                           optional<&SingleControlModuleType::InteractionWindow>(),
-                           optional<&SingleControlModuleType::AlarmOwner>(),
-                           optional<&SingleControlModuleType::BatchObject>(),
-                           always<&SingleControlModuleType::TypeGuid>(),
-                           optional<&SingleControlModuleType::SILLevel>(),
-                           optional<&SingleControlModuleType::RestrictedSIL>(),
-                           optional<&SingleControlModuleType::SimulationMark>(),
-                           optional<&SingleControlModuleType::ReservedByFunction>()},
-            .children = {text<&SingleControlModuleType::CMTypeGraphics>(),
-                         list<&SingleControlModuleType::CMParameters>(),
-                         list<&SingleControlModuleType::Variables>(),
-                         list<&SingleControlModuleType::ExternalVariables>(),
-                         list<&SingleControlModuleType::CommVariables>(),
-                         list<&SingleControlModuleType::Signals>(),
-                         list<&SingleControlModuleType::FunctionBlocks>(),
-                         list<&SingleControlModuleType::ControlModules>(),
-                         list<&SingleControlModuleType::InitValues>(),
-                         list<&SingleControlModuleType::CodeBlocks>(),
-                         text<&SingleControlModuleType::Description>(),
-                         object<&SingleControlModuleType::GraphSize>()}};
+    return {
+        .attributes = {required<&T::Name>(), optional<&T::InteractionWindow>(),
+                       optional<&T::AlarmOwner>(), optional<&T::BatchObject>(),
+                       always<&T::TypeGuid>(), optional<&T::SILLevel>(),
+                       optional<&T::RestrictedSIL>(), optional<&T::SimulationMark>(),
+                       optional<&T::ReservedByFunction>()},
+        .children = {text<&T::CMTypeGraphics>(), list<&T::CMParameters>(), list<&T::Variables>(),
+                     list<&T::ExternalVariables>(), list<&T::CommVariables>(), list<&T::Signals>(),
+                     list<&T::FunctionBlocks>(), list<&T::ControlModules>(), list<&T::InitValues>(),
+                     list<&T::CodeBlocks>(), text<&T::Description>(), object<&T::GraphSize>()}};
   }
-  using Form = describe::Creation<SingleControlModuleType, &SingleControlModuleType::Name,
-                                  &SingleControlModuleType::Description>;
+  using Form = describe::Creation<T, &T::Name, &T::Description>;
   using LongForm =
-      describe::Extended<Form, &SingleControlModuleType::InteractionWindow,
-                         &SingleControlModuleType::AlarmOwner, &SingleControlModuleType::TypeGuid,
-                         &SingleControlModuleType::GraphSize>;
+      describe::Extended<Form, &T::InteractionWindow, &T::AlarmOwner, &T::TypeGuid, &T::GraphSize>;
 };
 
-extern template const describe::ClassDescription& describe::Describe<SingleControlModuleType>();
+extern template struct describe::Published<SingleControlModuleType>;
 
 }  // namespace praxen
 
