@@ -1,3 +1,4 @@
+// Walks objects and what they hold by their descriptions.
 #include "tools/praxen/object_tree.h"
 
 #include "praxen/automation/values.h"

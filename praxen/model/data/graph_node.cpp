@@ -1,3 +1,4 @@
+// The descriptions of GraphNode and its list.
 #include "praxen/model/data/graph_node.h"
 
 #include "praxen/describe/define.h"

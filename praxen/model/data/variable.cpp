@@ -1,3 +1,4 @@
+// The descriptions of Variable and its list.
 #include "praxen/model/data/variable.h"
 
 #include "praxen/describe/define.h"
