@@ -8,6 +8,7 @@
 #include "praxen/core/error.h"
 #include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
+#include "praxen/xml/xml_name.h"
 
 namespace praxen::describe {
 
