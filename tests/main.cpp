@@ -1,9 +1,12 @@
-// Runs the tests, all of them or with --file=PATH those of one source file.
+// Runs the tests, all of them or with --file=PATH those of one source file. With --remake what they
+// expect in recorded files is recorded anew.
 #include <gtest/gtest.h>
 
 #include <iostream>
 #include <string>
 #include <string_view>
+
+#include "tests/support/recorded.h"
 
 namespace {
 
@@ -29,6 +32,10 @@ int main(int argc, char** argv) {
   constexpr std::string_view kFileOption = "--file=";
   for (int i = 1; i < argc; ++i) {
     const std::string_view argument = argv[i];
+    if (argument == "--remake") {
+      praxen::detail::RemakeRecorded();
+      continue;
+    }
     if (!argument.starts_with(kFileOption)) {
       std::cerr << "unknown option " << argument << '\n';
       return 2;

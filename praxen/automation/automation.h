@@ -4,6 +4,8 @@
 #ifndef PRAXEN_AUTOMATION_AUTOMATION_H_
 #define PRAXEN_AUTOMATION_AUTOMATION_H_
 
+#include "praxen/core/language.h"
+
 #ifdef _WIN32
 
 #ifndef WIN32_LEAN_AND_MEAN

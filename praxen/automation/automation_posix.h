@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "praxen/core/language.h"
+
 // NOLINTBEGIN: the names are those of the platform interface, not of this project's style.
 
 // One calling convention serves everything here, so the annotation is empty.

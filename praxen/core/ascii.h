@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "praxen/core/language.h"
+
 namespace praxen::detail {
 
 /// The lower case of an ASCII letter; any other character as it is.

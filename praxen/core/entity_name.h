@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "praxen/core/language.h"
+
 namespace praxen::detail {
 
 namespace entity_name {

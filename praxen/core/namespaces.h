@@ -1,6 +1,8 @@
-// How the namespaces of the library see each other.
+// How the namespaces of the library see each other. Every header of the library leads here first.
 #ifndef PRAXEN_CORE_NAMESPACES_H_
 #define PRAXEN_CORE_NAMESPACES_H_
+
+#include "praxen/core/language.h"
 
 /// What clients use: the classes of the model, texts, references, errors and the factory. Nothing
 /// else is visible to a client that uses this namespace as a whole.

@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "praxen/core/language.h"
+
 namespace praxen {
 
 /// A place in a text, counted from 1; a line of 0 means that the place is not known. Columns count

@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include "praxen/core/language.h"
+
 namespace praxen::detail {
 
 /// An identifier of 128 bits in the fields of RFC 4122, which lie as those of an automation

@@ -15,7 +15,13 @@
 #include "praxen/describe/object.h"
 #include "praxen/describe/slots.h"
 #include "praxen/describe/value_type.h"
-#include "praxen/xml/xml_name.h"
+
+namespace praxen::detail {
+
+// Declared as in praxen/xml/xml_name.h, which clients do not need.
+using XmlName = const std::u16string*;
+
+}  // namespace praxen::detail
 
 namespace praxen::describe {
 

@@ -105,9 +105,9 @@ class Ref {
   }
   Ref(const Ref& other) noexcept : Ref(other.object_) {}
   Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
-  template <class U>
+  template <class U>  // NOLINTNEXTLINE
   requires std::convertible_to<U*, T*> Ref(const Ref<U>& other)
-  noexcept : Ref(other.get()) {}  // NOLINT
+  noexcept : Ref(other.get()) {}
   ~Ref() {
     if (object_ != nullptr) object_->Release();
   }

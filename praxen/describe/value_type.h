@@ -133,7 +133,7 @@ Ref<Object> AdaptForeign(Interface* foreign) {
 template <ObjectClass T>
 constexpr Ref<Object> (*kAdapt)(Interface*) = nullptr;
 template <KindClass T>
-constexpr Ref<Object> (*kAdapt<T>)(Interface*) = &AdaptForeign<T>;
+constexpr Ref<Object> (*kAdapt<T>)(Interface*) = &AdaptForeign<T>;  // NOLINT
 
 /// The object as a `T`; raises `TypeMismatch` when it is of another class.
 template <ObjectClass T>

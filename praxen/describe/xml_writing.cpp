@@ -9,6 +9,7 @@
 #include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
 #include "praxen/describe/reflection.h"
+#include "praxen/xml/xml_name.h"
 
 namespace praxen::describe {
 

@@ -1,3 +1,4 @@
+// The description of maintenance, and the state that it shows and sets.
 #include "praxen/model/maintenance.h"
 
 #include "praxen/core/counters.h"

@@ -1,11 +1,7 @@
 // The exact document of every serializable class, with everything set and with nothing but what is
-// required, out and back. The expected documents are in the folder "documents".
+// required, out and back. The expected documents are in the folder "documents"; ./dev expect
+// remakes them.
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <set>
 
 #include "praxen/core/counters.h"
 #include "praxen/describe/reflection.h"
@@ -13,6 +9,7 @@
 #include "praxen/praxen.h"
 #include "tests/support/documents.h"
 #include "tests/support/example.h"
+#include "tests/support/recorded.h"
 
 namespace praxen::detail {
 namespace {
@@ -20,10 +17,8 @@ namespace {
 // Deep enough for a property of every class that the document can contain.
 constexpr int kDepth = 2;
 
-std::string ExpectedDocument(std::string_view className) {
-  const auto folder = std::filesystem::path(PRAXEN_SOURCE_FOLDER) / "tests/model/documents";
-  std::ifstream stream(folder / (std::string(className) + ".xml"), std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
+std::string PathOfDocument(std::string_view className) {
+  return "tests/model/documents/" + std::string(className) + ".xml";
 }
 
 // A document is longer than a failure should print: only the lines around the first difference.
@@ -46,7 +41,7 @@ TEST(Documents, OfObjectsWithEverythingSet) {
     const Ref<Object> object = description.create();
     FillExample(*object, kDepth);
     const std::string written = ExampleDocument(*object);
-    const std::string expected = ExpectedDocument(description.name);
+    const std::string expected = Recorded(PathOfDocument(description.name), written);
     EXPECT_TRUE(written == expected) << description.name << "\n"
                                      << FirstDifference(written, expected);
     const Text document = dynamic_cast<SerializableObject&>(*object).Serialize();

@@ -1,3 +1,4 @@
+// Short forms for tests that read and write documents.
 #include "tests/support/documents.h"
 
 #include <cstdio>

@@ -1,6 +1,6 @@
 // The manifest for using the library on Windows without registering it.
-#ifndef TOOLS_GENERATE_MANIFEST_H_
-#define TOOLS_GENERATE_MANIFEST_H_
+#ifndef PRAXEN_TOOLS_GENERATE_MANIFEST_H_
+#define PRAXEN_TOOLS_GENERATE_MANIFEST_H_
 
 #include <string>
 
@@ -12,4 +12,4 @@ std::string GenerateManifest();
 
 }  // namespace praxen::detail
 
-#endif  // TOOLS_GENERATE_MANIFEST_H_
+#endif  // PRAXEN_TOOLS_GENERATE_MANIFEST_H_

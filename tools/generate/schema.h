@@ -1,6 +1,6 @@
 // The schema that the library ships, from the layouts of the classes.
-#ifndef TOOLS_GENERATE_SCHEMA_H_
-#define TOOLS_GENERATE_SCHEMA_H_
+#ifndef PRAXEN_TOOLS_GENERATE_SCHEMA_H_
+#define PRAXEN_TOOLS_GENERATE_SCHEMA_H_
 
 #include <map>
 #include <optional>
@@ -43,4 +43,4 @@ std::string GenerateSchema();
 
 }  // namespace praxen::detail
 
-#endif  // TOOLS_GENERATE_SCHEMA_H_
+#endif  // PRAXEN_TOOLS_GENERATE_SCHEMA_H_

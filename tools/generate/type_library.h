@@ -1,6 +1,6 @@
 // The source of the type library, from the descriptions of classes and enumerations.
-#ifndef TOOLS_GENERATE_TYPE_LIBRARY_H_
-#define TOOLS_GENERATE_TYPE_LIBRARY_H_
+#ifndef PRAXEN_TOOLS_GENERATE_TYPE_LIBRARY_H_
+#define PRAXEN_TOOLS_GENERATE_TYPE_LIBRARY_H_
 
 #include <string>
 #include <string_view>
@@ -17,4 +17,4 @@ std::string GenerateTypeLibrary();
 
 }  // namespace praxen::detail
 
-#endif  // TOOLS_GENERATE_TYPE_LIBRARY_H_
+#endif  // PRAXEN_TOOLS_GENERATE_TYPE_LIBRARY_H_

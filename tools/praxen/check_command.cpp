@@ -1,3 +1,4 @@
+// "praxen check": reads, writes again and compares.
 #include "tools/praxen/check_command.h"
 
 #include <algorithm>

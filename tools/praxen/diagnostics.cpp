@@ -1,3 +1,4 @@
+// Errors as a compiler prints them.
 #include "tools/praxen/diagnostics.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Documents as bytes, and the encodings that their declarations and first bytes tell.
 #include "tools/praxen/document_text.h"
 
 #include <utf8/checked.h>

@@ -1,3 +1,4 @@
+// The families of documents, and the work that commands do on files.
 #include "tools/praxen/documents.h"
 
 #include <system_error>

@@ -1,3 +1,4 @@
+// "praxen messages": prints a message list the way a compiler would.
 #include "tools/praxen/messages_command.h"
 
 #include <algorithm>

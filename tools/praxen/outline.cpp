@@ -1,3 +1,4 @@
+// Prints an object and all below it as a tree of lines.
 #include "tools/praxen/outline.h"
 
 #include <algorithm>

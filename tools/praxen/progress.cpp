@@ -1,3 +1,4 @@
+// Shows on standard error how far long work has come.
 #include "tools/praxen/progress.h"
 
 #include <iostream>

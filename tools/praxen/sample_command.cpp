@@ -1,3 +1,4 @@
+// "praxen sample": writes a sample document of a family.
 #include "tools/praxen/sample_command.h"
 
 #include <cerrno>

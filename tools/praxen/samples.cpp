@@ -1,3 +1,4 @@
+// Builds the objects of a small plant, from which the sample documents come.
 #include "tools/praxen/samples.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// "praxen show": prints documents as outlines.
 #include "tools/praxen/show_command.h"
 
 #include <iostream>

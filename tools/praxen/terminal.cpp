@@ -1,3 +1,4 @@
+// What the programs ask of the terminal.
 #include "tools/praxen/terminal.h"
 
 #include <algorithm>
