@@ -53,14 +53,14 @@ struct Attribute {
 
   /// In bytes from the start of the object.
   std::ptrdiff_t offset = 0;
-  /// The published member of that property; null when it is not published.
-  const Member* member = nullptr;
   XmlName xmlName = nullptr;
   /// Whether the attribute is left out for the value that its absence stands for.
   bool canBeAbsent = false;
   /// The value that absence stands for, as it would be written, and as a number if it is one.
   Text absentText = {};
   int32_t absentNumber = 0;
+  /// The published member of the property; null when it is not published.
+  const Member* member = nullptr;
 };
 
 enum class ChildKind : uint8_t {
@@ -123,10 +123,10 @@ struct Child {
 
   /// Of the text or the reference: in bytes from the start of the object.
   std::ptrdiff_t offset = 0;
-  /// The published member of that property; null when it is not published.
-  const Member* member = nullptr;
   /// The name of its element.
   XmlName xmlName = nullptr;
+  /// The published member of the property; null when it is not published.
+  const Member* member = nullptr;
 };
 
 /// One of the classes that the elements of a list may have.

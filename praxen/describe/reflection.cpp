@@ -37,10 +37,6 @@ Object* Held(Object& object, const Member& member) {
   return IsKeptObject(member) ? member.type.held(member.storage(object)) : nullptr;
 }
 
-Object* Held(Object& object, const Child& child) {
-  return IsObject(child.type) ? child.type.held(ValueOf(child, object)) : nullptr;
-}
-
 Object& HeldOrCreated(Object& object, const Member& member) {
   return HeldOrCreatedAt(member.type, member.storage(object));
 }

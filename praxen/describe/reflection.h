@@ -192,7 +192,9 @@ Value ReadProperty(Object& object, const Member& member);
 /// The list or object behind a property or in a child; null where there is none, and where it is
 /// none of an object.
 Object* Held(Object& object, const Member& member);
-Object* Held(Object& object, const Child& child);
+inline Object* Held(Object& object, const Child& child) {
+  return child.type.held == nullptr ? nullptr : child.type.held(ValueOf(child, object));
+}
 
 /// The same, created where there is none; only of a property or child of an object. Raises
 /// `TypeMismatch` where none can be created.
