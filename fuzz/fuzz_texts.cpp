@@ -43,7 +43,7 @@ void Read(praxen::detail::FuzzInput input) {
     operation.invokeGet(praxen::detail::SharedFactory(), &argument, result);
   });
   if (!isRead) return;
-  praxen::detail::HoldRoundTrip(*praxen::detail::value_type::ObjectFromVariant(result, nullptr),
+  praxen::detail::HoldRoundTrip(*detail::ObjectFromVariant(result, nullptr),
                                 praxen::detail::Values::Carried);
 }
 

@@ -98,7 +98,7 @@ Object* ObjectPool::Choose(FuzzInput& input, const ClassDescription& wanted) {
 
 void ObjectPool::Keep(const VARIANT& result) {
   if (result.vt != VT_DISPATCH || objects_.size() >= kMostObjects) return;
-  const Ref<Object> object = value_type::ObjectFromVariant(result, nullptr);
+  const Ref<Object> object = detail::ObjectFromVariant(result, nullptr);
   if (object && std::ranges::find(objects_, object) == objects_.end()) objects_.push_back(object);
 }
 

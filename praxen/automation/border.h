@@ -2,6 +2,8 @@
 #ifndef PRAXEN_AUTOMATION_BORDER_H_
 #define PRAXEN_AUTOMATION_BORDER_H_
 
+#include "praxen/core/language.h"
+
 namespace praxen::detail {
 
 /// Does the work and returns its result; for an exception, what `failed` returns, which is called

@@ -8,8 +8,6 @@
 
 namespace praxen::detail {
 
-namespace entity_name {
-
 template <auto Entity>
 constexpr std::string_view Signature() {
   return __PRETTY_FUNCTION__;
@@ -30,18 +28,16 @@ constexpr std::string_view LastName(std::string_view signature) {
   return scope == std::string_view::npos ? signature : signature.substr(scope + 1);
 }
 
-}  // namespace entity_name
-
 /// The unqualified name of a member, given a pointer to it, or of an enumerator.
 template <auto Entity>
 constexpr std::string_view EntityName() {
-  return entity_name::LastName(entity_name::Signature<Entity>());
+  return detail::LastName(detail::Signature<Entity>());
 }
 
 /// The unqualified name of a class.
 template <class Entity>
 constexpr std::string_view TypeName() {
-  return entity_name::LastName(entity_name::TypeSignature<Entity>());
+  return detail::LastName(detail::TypeSignature<Entity>());
 }
 
 }  // namespace praxen::detail

@@ -1,6 +1,6 @@
 // The decimal separator of the locale that the environment chooses.
 #include <langinfo.h>
-#include <locale.h>
+#include <locale.h>  // NOLINT: for newlocale, which <clocale> does not promise.
 
 #include <array>
 #include <cstdlib>

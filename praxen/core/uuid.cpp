@@ -5,7 +5,7 @@ namespace praxen::detail {
 
 namespace {
 
-using uuid_internal::Bytes;
+using detail::Bytes;
 
 constexpr size_t kTextLength = 36;
 
@@ -39,14 +39,14 @@ std::optional<Uuid> Parse(std::basic_string_view<Char> text) {
     if (high < 0 || low < 0) return std::nullopt;
     bytes[i] = static_cast<uint8_t>(high * 16 + low);
   }
-  return uuid_internal::FromBytes(bytes);
+  return detail::FromBytes(bytes);
 }
 
 }  // namespace
 
 std::string UuidToText(const Uuid& uuid) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
-  const Bytes bytes = uuid_internal::ToBytes(uuid);
+  const Bytes bytes = detail::ToBytes(uuid);
   std::string text = "{";
   for (size_t i = 0; i < bytes.size(); ++i) {
     if (HyphenBeforeByte(i)) text += '-';

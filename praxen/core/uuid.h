@@ -24,8 +24,6 @@ struct Uuid {
   friend bool operator==(const Uuid&, const Uuid&) = default;
 };
 
-namespace uuid_internal {
-
 using Bytes = std::array<uint8_t, 16>;
 
 /// The sixteen bytes in the order in which the text form shows them.
@@ -115,22 +113,20 @@ class Sha1 {
   uint64_t length_ = 0;
 };
 
-}  // namespace uuid_internal
-
 /// The identifier of a name within a name space: version 5 of RFC 4122, the same for all
 /// time. The name may be given in parts.
 template <class... Parts>
 constexpr Uuid NameUuid(const Uuid& nameSpace, const Parts&... name) {
-  uuid_internal::Sha1 hash;
-  for (const uint8_t byte : uuid_internal::ToBytes(nameSpace)) hash.Add(byte);
+  detail::Sha1 hash;
+  for (const uint8_t byte : detail::ToBytes(nameSpace)) hash.Add(byte);
   const auto add = [&](std::string_view part) {
     for (const char c : part) hash.Add(static_cast<uint8_t>(c));
   };
   (add(name), ...);
-  uuid_internal::Bytes bytes = hash.Finish();
+  detail::Bytes bytes = hash.Finish();
   bytes[6] = static_cast<uint8_t>((bytes[6] & 0x0F) | 0x50);
   bytes[8] = static_cast<uint8_t>((bytes[8] & 0x3F) | 0x80);
-  return uuid_internal::FromBytes(bytes);
+  return detail::FromBytes(bytes);
 }
 
 /// The text "{XXXXXXXX-XXXX-XXXX-XXXX-XXXXXXXXXXXX}" in upper case.

@@ -11,6 +11,7 @@
 
 namespace praxen::detail::abi {
 
+// They are different types where the system has its own; NOLINTNEXTLINE
 static_assert(sizeof(Variant) == sizeof(VARIANT) && alignof(Variant) == alignof(VARIANT));
 
 namespace {
@@ -98,7 +99,7 @@ AnyValue ToAny(const Variant& variant) {
   VARIANT value;
   std::memcpy(&value, &variant, sizeof value);
   AnyValue any;
-  value_type::AnyFromVariant(&any, value);
+  detail::AnyFromVariant(&any, value);
   return any;
 }
 

@@ -36,7 +36,9 @@ inline constexpr ConvertedStep<Pointer, AnyValue> anyValue;
 template <auto Pointer>
 inline constexpr ConvertedStep<Pointer, Text> asText;
 
-namespace creation {
+}  // namespace praxen::describe
+
+namespace praxen::detail {
 
 template <auto Step>
 struct StepOf {
@@ -57,7 +59,9 @@ struct NoPreparation {
   static void Prepare(Class&) {}
 };
 
-}  // namespace creation
+}  // namespace praxen::detail
+
+namespace praxen::describe {
 
 /// Creates an object, lets `Preparation` set what no argument tells, and sets the properties named
 /// by `Steps` from the arguments, in that order. An argument is named like its property.
@@ -65,32 +69,34 @@ template <class Class, class Preparation, auto... Steps>
 struct PreparedCreation {
   using Created = Class;
   template <auto Step>
-  using Argument = const typename creation::StepOf<Step>::Argument&;
+  using Argument = const typename detail::StepOf<Step>::Argument&;
 
   static constexpr uint32_t kByReference = [] {
     uint32_t mask = 0;
     [[maybe_unused]] uint32_t bit = 1;
-    ((mask |= creation::StepOf<Steps>::kByReference ? bit : 0, bit <<= 1), ...);
+    ((mask |= detail::StepOf<Steps>::kByReference ? bit : 0, bit <<= 1), ...);
     return mask;
   }();
 
   Ref<Class> operator()(Argument<Steps>... arguments) const {
     Ref<Class> object = New<Class>();
     Preparation::Prepare(*object);
-    ((object.get()->*creation::StepOf<Steps>::kMember = arguments), ...);
+    ((object.get()->*detail::StepOf<Steps>::kMember = arguments), ...);
     return object;
   }
 
   static std::vector<std::string_view> ParameterNames() {
-    return {EntityName<creation::StepOf<Steps>::kMember>()...};
+    return {EntityName<detail::StepOf<Steps>::kMember>()...};
   }
   static std::string_view Help() { return "Creates an object with the given values."; }
 };
 
 template <class Class, auto... Steps>
-using Creation = PreparedCreation<Class, creation::NoPreparation, Steps...>;
+using Creation = PreparedCreation<Class, detail::NoPreparation, Steps...>;
 
-namespace creation {
+}  // namespace praxen::describe
+
+namespace praxen::detail {
 
 template <class Form, auto... More>
 struct Extend;
@@ -99,11 +105,13 @@ struct Extend<PreparedCreation<Class, Preparation, Steps...>, More...> {
   using type = PreparedCreation<Class, Preparation, Steps..., More...>;
 };
 
-}  // namespace creation
+}  // namespace praxen::detail
+
+namespace praxen::describe {
 
 /// A creating operation that takes further arguments behind those of another.
 template <class Form, auto... More>
-using Extended = typename creation::Extend<Form, More...>::type;
+using Extended = typename detail::Extend<Form, More...>::type;
 
 }  // namespace praxen::describe
 

@@ -23,7 +23,9 @@ concept ImplementsKind = requires {
 }
 &&!KindClass<Class>;
 
-namespace define_detail {
+}  // namespace praxen::describe
+
+namespace praxen::detail {
 
 template <class Class>
 const Layout& LayoutOf() {
@@ -60,11 +62,13 @@ ClassFacts FactsOf() {
   return facts;
 }
 
-}  // namespace define_detail
+}  // namespace praxen::detail
+
+namespace praxen::describe {
 
 template <class Class>
 const ClassDescription& Published<Class>::Description() {
-  static const ClassDescription description(define_detail::FactsOf<Class>());
+  static const ClassDescription description(detail::FactsOf<Class>());
   return description;
 }
 

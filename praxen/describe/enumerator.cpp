@@ -31,7 +31,7 @@ HRESULT STDMETHODCALLTYPE Next(Interface* self, ULONG count, VARIANT* values,
   ULONG got = 0;
   for (; got < count && !enumerator.atEnd(); ++got) {
     VariantInit(&values[got]);
-    value_type::ObjectToVariant(enumerator.Next().get(), values[got]);
+    detail::ObjectToVariant(enumerator.Next().get(), values[got]);
   }
   if (fetched != nullptr) *fetched = got;
   return got == count ? S_OK : S_FALSE;

@@ -7,6 +7,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/describe/reflection.h"
 #include "praxen/describe/xml_writing.h"
+#include "praxen/xml/xml_name.h"
 
 namespace praxen::describe {
 

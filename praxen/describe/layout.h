@@ -184,39 +184,35 @@ std::u16string ElementName() {
   }
 }
 
-namespace layout_detail {
-
 template <auto Pointer>
-Attribute Make(Rule rule, std::u16string_view name) {
+Attribute MakeAttribute(Rule rule, std::u16string_view name) {
   using Slots = PropertySlots<Pointer>;
   constexpr std::string_view property = EntityName<Pointer>();
   return {name.empty() ? WidenAscii(property) : std::u16string(name), rule,
           ValueTypeOf<typename Slots::Value>(), &Slots::Address, property};
 }
 
-}  // namespace layout_detail
-
 // The attributes are named like their properties unless a name is given.
 
 template <auto Pointer>
 Attribute required(std::u16string_view name = {}) {
-  return layout_detail::Make<Pointer>(Rule::Required, name);
+  return MakeAttribute<Pointer>(Rule::Required, name);
 }
 template <auto Pointer>
 Attribute always(std::u16string_view name = {}) {
-  return layout_detail::Make<Pointer>(Rule::Always, name);
+  return MakeAttribute<Pointer>(Rule::Always, name);
 }
 template <auto Pointer>
 Attribute optional(std::u16string_view name = {}) {
-  return layout_detail::Make<Pointer>(Rule::Optional, name);
+  return MakeAttribute<Pointer>(Rule::Optional, name);
 }
 template <auto Pointer>
 Attribute unlessEmpty(std::u16string_view name = {}) {
-  return layout_detail::Make<Pointer>(Rule::UnlessEmpty, name);
+  return MakeAttribute<Pointer>(Rule::UnlessEmpty, name);
 }
 template <auto Pointer>
 Attribute readOnly(std::u16string_view name = {}) {
-  return layout_detail::Make<Pointer>(Rule::ReadOnly, name);
+  return MakeAttribute<Pointer>(Rule::ReadOnly, name);
 }
 inline Attribute ReadIfPresent(Attribute attribute) {
   attribute.readIfPresent = true;
@@ -232,10 +228,8 @@ std::vector<Attribute> POUHeader(std::initializer_list<Attribute> others = {}) {
   return attributes;
 }
 
-namespace layout_detail {
-
 template <auto Pointer>
-Child Make(ChildKind kind) {
+Child MakeChild(ChildKind kind) {
   using Slots = PropertySlots<Pointer>;
   Child child{kind};
   child.storage = &Slots::Address;
@@ -250,11 +244,9 @@ Child Make(ChildKind kind) {
   return child;
 }
 
-}  // namespace layout_detail
-
 template <auto Pointer>
 Child list() {
-  return layout_detail::Make<Pointer>(ChildKind::List);
+  return MakeChild<Pointer>(ChildKind::List);
 }
 /// A list that always writes its element elsewhere, and here only when it is not empty.
 template <auto Pointer>
@@ -265,19 +257,19 @@ Child listUnlessEmpty() {
 }
 template <auto Pointer>
 Child items() {
-  return layout_detail::Make<Pointer>(ChildKind::Items);
+  return MakeChild<Pointer>(ChildKind::Items);
 }
 template <auto Pointer>
 Child object() {
-  return layout_detail::Make<Pointer>(ChildKind::Object);
+  return MakeChild<Pointer>(ChildKind::Object);
 }
 template <auto Pointer>
 Child unnamed() {
-  return layout_detail::Make<Pointer>(ChildKind::Unnamed);
+  return MakeChild<Pointer>(ChildKind::Unnamed);
 }
 template <auto Pointer>
 Child text() {
-  return layout_detail::Make<Pointer>(ChildKind::Text);
+  return MakeChild<Pointer>(ChildKind::Text);
 }
 /// A text in an element inside another element.
 template <auto Pointer>
@@ -304,19 +296,15 @@ Child strictText() {
 }
 template <auto Pointer>
 Child content() {
-  return layout_detail::Make<Pointer>(ChildKind::Content);
+  return MakeChild<Pointer>(ChildKind::Content);
 }
 
-namespace layout_detail {
-
 template <class Pointer>
-struct ClassOf;
+struct OwnerOf;
 template <class C, class T>
-struct ClassOf<T C::*> {
+struct OwnerOf<T C::*> {
   using type = C;
 };
-
-}  // namespace layout_detail
 
 /// Children that the class writes and reads itself, with `void Write(XMLStringWriter&)` and
 /// `void Read(XmlNode& cursor)`, which moves the cursor behind what it reads.
@@ -325,10 +313,10 @@ Child custom(std::string_view explanation, std::vector<ElementShape> shapes) {
   Child child{ChildKind::Custom};
   child.shapes = std::move(shapes);
   child.writeXML = [](Object& object, XMLStringWriter& writer) {
-    (static_cast<typename layout_detail::ClassOf<decltype(Write)>::type&>(object).*Write)(writer);
+    (static_cast<typename detail::OwnerOf<decltype(Write)>::type&>(object).*Write)(writer);
   };
   child.readXML = [](Object& object, XmlNode& cursor) {
-    (static_cast<typename layout_detail::ClassOf<decltype(Read)>::type&>(object).*Read)(cursor);
+    (static_cast<typename detail::OwnerOf<decltype(Read)>::type&>(object).*Read)(cursor);
   };
   child.explanation = explanation;
   return child;

@@ -100,11 +100,13 @@ Member propertyPutFirst(std::string_view help = {}) {
   return PutFirst(property<Pointer>(help));
 }
 
-namespace member_detail {
+}  // namespace praxen::describe
+
+namespace praxen::detail {
 
 template <class Operation, uint32_t ByReference>
-Member Make(std::string_view name, std::string_view help,
-            const std::vector<std::string_view>& parameters) {
+describe::Member MakeMember(std::string_view name, std::string_view help,
+                            const std::vector<std::string_view>& parameters) {
   using Slots = OperationSlots<Operation, ByReference>;
   Member member;
   member.name = name;
@@ -119,13 +121,15 @@ Member Make(std::string_view name, std::string_view help,
   return member;
 }
 
-}  // namespace member_detail
+}  // namespace praxen::detail
+
+namespace praxen::describe {
 
 /// A method; `parameters` are the published names.
 template <auto Pointer, uint32_t ByReference = 0>
 Member method(std::string_view help, const std::vector<std::string_view>& parameters = {}) {
-  Member member = member_detail::Make<MemberOperation<Pointer>, ByReference>(EntityName<Pointer>(),
-                                                                             help, parameters);
+  Member member =
+      MakeMember<MemberOperation<Pointer>, ByReference>(EntityName<Pointer>(), help, parameters);
   member.isMethod = true;
   return member;
 }
@@ -133,7 +137,7 @@ Member method(std::string_view help, const std::vector<std::string_view>& parame
 /// A property that is computed and can only be read; it may have parameters.
 template <auto Pointer>
 Member computed(std::string_view help, const std::vector<std::string_view>& parameters = {}) {
-  return member_detail::Make<MemberOperation<Pointer>, 0>(EntityName<Pointer>(), help, parameters);
+  return MakeMember<MemberOperation<Pointer>, 0>(EntityName<Pointer>(), help, parameters);
 }
 
 /// A property behind a pair of functions.
@@ -143,7 +147,7 @@ Member accessors(std::string_view name, std::string_view help) {
   using Setting = OperationSlots<MemberOperation<Setter>, 0>;
   using Class = typename Getting::Class;
   using Value = typename Getting::Result;
-  Member member = member_detail::Make<MemberOperation<Getter>, 0>(name, help, {});
+  Member member = MakeMember<MemberOperation<Getter>, 0>(name, help, {});
   member.put = Setting::Slots::Function();
   member.invokePut = &Setting::Slots::Invoke;
   member.readValue = [](Object& object, void* value) {
@@ -168,8 +172,7 @@ concept MakingOperation = std::default_initializable<Type> && requires {
 /// A method that `Operation` runs and that is published as `Form` tells.
 template <class Operation, MakingOperation Form>
 Member making(std::string_view name, std::string_view help = Form::Help()) {
-  Member member =
-      member_detail::Make<Operation, Form::kByReference>(name, help, Form::ParameterNames());
+  Member member = MakeMember<Operation, Form::kByReference>(name, help, Form::ParameterNames());
   member.isMethod = true;
   return member;
 }

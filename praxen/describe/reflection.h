@@ -73,7 +73,9 @@ struct EnumerationValue {
   operator Number&() const noexcept { return number; }  // NOLINT
 };
 
-namespace reflection_detail {
+}  // namespace praxen::describe
+
+namespace praxen::detail {
 
 /// How the values of a type are stored; only a type whose objects are values has `type`.
 template <class T>
@@ -104,12 +106,13 @@ decltype(auto) Show(const ValueType& type, Value& value, Visitor& visitor) {
   }
 }
 
-}  // namespace reflection_detail
+}  // namespace praxen::detail
+
+namespace praxen::describe {
 
 /// Whether a type is one of those that `VisitValue` takes.
 inline bool IsValue(const ValueType& type) {
-  return VisitType(type,
-                   []<class T>(std::type_identity<T>) { return reflection_detail::ValueTag<T>; });
+  return VisitType(type, []<class T>(std::type_identity<T>) { return detail::ValueTag<T>; });
 }
 
 /// Calls the visitor with the value at an address as what it is: `Text&`, `bool&`, `int32_t&`,
@@ -122,10 +125,10 @@ decltype(auto) VisitValue(const ValueType& type, Address* value, Visitor&& visit
   using TextValue = std::conditional_t<IsConst::value, const Text, Text>;
   using Result = std::invoke_result_t<Visitor&, TextValue&>;
   return VisitType(type, [&]<class T>(std::type_identity<T>) -> Result {
-    if constexpr (reflection_detail::ValueTag<T>) {
-      using Plain = typename reflection_detail::Stored<T>::type;
+    if constexpr (detail::ValueTag<T>) {
+      using Plain = typename detail::Stored<T>::type;
       using Held = std::conditional_t<IsConst::value, const Plain, Plain>;
-      return reflection_detail::Show<T>(type, *static_cast<Held*>(value), visitor);
+      return detail::Show<T>(type, *static_cast<Held*>(value), visitor);
     } else {
       ThrowTypeMismatch();
     }
@@ -155,10 +158,10 @@ void VisitProperty(Object& object, const Member& member, Visitor&& visitor) {
     return VisitValue(member.type, value, visitor);
   }
   VisitType(member.type, [&]<class T>(std::type_identity<T>) {
-    if constexpr (reflection_detail::ValueTag<T>) {
-      typename reflection_detail::Stored<T>::type value{};
+    if constexpr (detail::ValueTag<T>) {
+      typename detail::Stored<T>::type value{};
       member.readValue(object, &value);
-      reflection_detail::Show<T>(member.type, std::as_const(value), visitor);
+      detail::Show<T>(member.type, std::as_const(value), visitor);
     } else {
       ThrowTypeMismatch();
     }
@@ -170,10 +173,10 @@ template <class Visitor>
 void ChangeProperty(Object& object, const Member& member, Visitor&& visitor) {
   if (member.storage != nullptr) return VisitValue(member.type, member.storage(object), visitor);
   VisitType(member.type, [&]<class T>(std::type_identity<T>) {
-    if constexpr (reflection_detail::ValueTag<T>) {
-      typename reflection_detail::Stored<T>::type value{};
+    if constexpr (detail::ValueTag<T>) {
+      typename detail::Stored<T>::type value{};
       member.readValue(object, &value);
-      reflection_detail::Show<T>(member.type, value, visitor);
+      detail::Show<T>(member.type, value, visitor);
       member.writeValue(object, &value);
     } else {
       ThrowTypeMismatch();

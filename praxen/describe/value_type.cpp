@@ -59,7 +59,9 @@ IUnknown* InterfaceOf(const VARIANT& argument) {
 
 }  // namespace
 
-namespace value_type {
+}  // namespace praxen::describe
+
+namespace praxen::detail {
 
 void TextToVariant(const void* value, tagVARIANT& variant) {
   variant.bstrVal = AllocateBstr(static_cast<const Text*>(value)->view());
@@ -126,8 +128,7 @@ void ThrowWrongClass(const tagVARIANT& variant) {
   throw ArgumentError{DISP_E_TYPEMISMATCH, &variant};
 }
 
-}  // namespace value_type
-}  // namespace praxen::describe
+}  // namespace praxen::detail
 
 namespace praxen {
 

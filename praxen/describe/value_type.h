@@ -102,7 +102,9 @@ concept ReferenceType = requires {
   typename RefTarget<T>::type;
 };
 
-namespace value_type {
+}  // namespace praxen::describe
+
+namespace praxen::detail {
 
 void TextToVariant(const void* value, tagVARIANT& variant);
 void TextFromVariant(void* value, const tagVARIANT& variant);
@@ -122,7 +124,9 @@ void ObjectToVariant(Object* object, tagVARIANT& variant);
 void EnumeratorToVariant(Object* enumerator, tagVARIANT& variant);
 [[noreturn]] void ThrowWrongClass(const tagVARIANT& variant);
 
-}  // namespace value_type
+}  // namespace praxen::detail
+
+namespace praxen::describe {
 
 /// Holds a foreign implementation of a kind interface; null when it does not implement it.
 template <KindClass Kind>
@@ -145,7 +149,6 @@ Ref<T> RequireClass(const Ref<Object>& object) {
 
 template <class T>
 constexpr ValueType MakeValueType() {
-  using namespace value_type;
   if constexpr (std::is_void_v<T>) {
     return {};
   } else if constexpr (std::is_same_v<T, Text>) {

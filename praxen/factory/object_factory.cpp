@@ -10,7 +10,7 @@ using namespace detail;
 Members ObjectFactory::members() {
   return {
 #define PRAXEN_OPERATION(Name, Type) operation<ObjectFactory, Name>(),
-#include "praxen/factory/object_factory_operations.h"
+#include "praxen/factory/object_factory_operations.inc"
   };
 }
 

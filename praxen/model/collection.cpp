@@ -3,7 +3,7 @@
 
 #include <limits>
 
-namespace praxen::collection_detail {
+namespace praxen::detail {
 
 using namespace detail;
 
@@ -23,4 +23,4 @@ int32_t CountOf(const std::vector<Ref<Object>>& elements) {
   return static_cast<int32_t>(elements.size());
 }
 
-}  // namespace praxen::collection_detail
+}  // namespace praxen::detail

@@ -11,9 +11,7 @@
 #include "praxen/describe/description.h"
 #include "praxen/describe/enumerator.h"
 
-namespace praxen {
-
-namespace collection_detail {
+namespace praxen::detail {
 
 /// The 0-based index of a 1-based position among `count`; raises `SubscriptOutOfRange`.
 size_t ToIndex(int32_t position, size_t count);
@@ -53,7 +51,9 @@ concept HasLongForm = requires {
   typename Element::LongForm;
 };
 
-}  // namespace collection_detail
+}  // namespace praxen::detail
+
+namespace praxen {
 
 /// Walks a list in C++; reaching an empty reference raises `MissingObject`.
 template <class Element>
@@ -96,39 +96,37 @@ class Collection : public describe::Described<Class, Base> {
   /// Inserts before the element at `BeforeIndex`, which may be `Count` + 1; raises
   /// `InvalidArgument` for another position.
   void AddBefore(const Ref<Element>& element, int32_t BeforeIndex) {
-    collection_detail::InsertBefore(elements_, element, BeforeIndex);
+    detail::InsertBefore(elements_, element, BeforeIndex);
     ElementAdded(element.get());
   }
   /// Creates an element from the properties that its `Form` names, appends and returns it.
   template <class... Arguments>
-  requires collection_detail::HasForm<Element> Ref<Element> Add1(const Arguments&... arguments) {
+  requires detail::HasForm<Element> Ref<Element> Add1(const Arguments&... arguments) {
     return Create<typename Element::Form>(arguments...);
   }
   /// The same with the properties of `LongForm`.
   template <class... Arguments>
-  requires collection_detail::HasLongForm<Element> Ref<Element> Add2(
-      const Arguments&... arguments) {
+  requires detail::HasLongForm<Element> Ref<Element> Add2(const Arguments&... arguments) {
     return Create<typename Element::LongForm>(arguments...);
   }
   /// The first element of that name, compared exactly; an empty reference when there is none.
-  Ref<Element> Find(const Text& key) const requires collection_detail::HasKey<Element> {
+  Ref<Element> Find(const Text& key) const requires detail::HasKey<Element> {
     const int32_t position = FindNr(key);
     return position < 0 ? Ref<Element>() : Item(position);
   }
   /// The position of the first element of that name; -1 when there is none.
-  int32_t FindNr(const Text& key) const requires collection_detail::HasKey<Element> {
-    return PositionOf(
-        [&](const Element& element) { return collection_detail::KeyOf(element) == key; });
+  int32_t FindNr(const Text& key) const requires detail::HasKey<Element> {
+    return PositionOf([&](const Element& element) { return detail::KeyOf(element) == key; });
   }
   /// The element at a position from 1 to `Count`; raises `SubscriptOutOfRange` for another.
   Ref<Element> Item(int32_t vntIndexKey) const {
-    const size_t index = collection_detail::ToIndex(vntIndexKey, elements_.size());
+    const size_t index = detail::ToIndex(vntIndexKey, elements_.size());
     return static_cast<Element*>(elements_[index].get());
   }
-  int32_t Count() const { return collection_detail::CountOf(elements_); }
+  int32_t Count() const { return detail::CountOf(elements_); }
   /// Removes the element at a position; those behind it move up.
   void Remove(int32_t vntIndexKey) {
-    const size_t index = collection_detail::ToIndex(vntIndexKey, elements_.size());
+    const size_t index = detail::ToIndex(vntIndexKey, elements_.size());
     // The element may die with its reference, and must not find the list half changed then.
     const Ref<Object> removed = elements_[index];
     elements_.erase(elements_.begin() + static_cast<std::ptrdiff_t>(index));
@@ -195,20 +193,19 @@ class Collection : public describe::Described<Class, Base> {
   static describe::Members additions() {
     using namespace describe;
     describe::Members members{add(), addBefore()};
-    if constexpr (collection_detail::HasForm<Element>) {
+    if constexpr (detail::HasForm<Element>) {
       members.push_back(creation<typename Element::Form>("Add1"));
     }
-    if constexpr (collection_detail::HasLongForm<Element>) {
+    if constexpr (detail::HasLongForm<Element>) {
       members.push_back(creation<typename Element::LongForm>("Add2"));
     }
     return members;
   }
   static describe::Members lookups() {
     using namespace describe;
-    if constexpr (collection_detail::HasKey<Element>) {
+    if constexpr (detail::HasKey<Element>) {
       std::string_view key = "Name";
-      if constexpr (collection_detail::StatesKey<Element>)
-        key = detail::EntityName<Element::key()>();
+      if constexpr (detail::StatesKey<Element>) key = detail::EntityName<Element::key()>();
       return {
           method<&Class::Find>("The first element of that name, or nothing.", {key}),
           method<&Class::FindNr>("The position of the first element of that name, or -1.", {key})};

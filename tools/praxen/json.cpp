@@ -1,3 +1,4 @@
+// From objects to JSON, over the reflection surface alone.
 #include "tools/praxen/json.h"
 
 #include <algorithm>

@@ -29,7 +29,7 @@ struct Property {
 
 std::string Number(std::u16string_view text) {
   const size_t start = text.find_first_not_of(u' ');
-  return Printable(text.substr(start == text.npos ? text.size() : start));
+  return Printable(text.substr(start == std::u16string_view::npos ? text.size() : start));
 }
 
 std::string ValueText(const Property& property) {
