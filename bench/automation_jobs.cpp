@@ -38,7 +38,7 @@ void Invoke(IDispatch* object, DISPID id, WORD flags, std::vector<Variant> argum
 
 constexpr WORD kGet = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 
-// The function at a slot behind those of IDispatch.
+// The function at a slot after those of IDispatch.
 template <class... Arguments>
 auto Slot(IDispatch* object, size_t slot) {
   using Function = HRESULT(STDMETHODCALLTYPE*)(IDispatch*, Arguments...);

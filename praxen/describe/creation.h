@@ -109,7 +109,7 @@ struct Extend<PreparedCreation<Class, Preparation, Steps...>, More...> {
 
 namespace praxen::describe {
 
-/// A creating operation that takes further arguments behind those of another.
+/// A creating operation that takes further arguments after those of another.
 template <class Form, auto... More>
 using Extended = typename detail::Extend<Form, More...>::type;
 

@@ -159,7 +159,7 @@ struct Layout {
   std::vector<std::ptrdiff_t> requiredTexts = {};
 };
 
-/// The value that lies so many bytes behind the start of an object.
+/// The value that lies so many bytes after the start of an object.
 inline void* ValueAt(Object& object, std::ptrdiff_t offset) noexcept {
   return reinterpret_cast<std::byte*>(&object) + offset;
 }
@@ -307,7 +307,7 @@ struct OwnerOf<T C::*> {
 };
 
 /// Children that the class writes and reads itself, with `void Write(XMLStringWriter&)` and
-/// `void Read(XmlNode& cursor)`, which moves the cursor behind what it reads.
+/// `void Read(XmlNode& cursor)`, which moves the cursor past what it reads.
 template <auto Write, auto Read>
 Child custom(std::string_view explanation, std::vector<ElementShape> shapes) {
   Child child{ChildKind::Custom};

@@ -124,7 +124,7 @@ class Collection : public describe::Described<Class, Base> {
     return static_cast<Element*>(elements_[index].get());
   }
   int32_t Count() const { return detail::CountOf(elements_); }
-  /// Removes the element at a position; those behind it move up.
+  /// Removes the element at a position; those after it move up.
   void Remove(int32_t vntIndexKey) {
     const size_t index = detail::ToIndex(vntIndexKey, elements_.size());
     // The element may die with its reference, and must not find the list half changed then.

@@ -47,7 +47,7 @@ class ErrorTest(unittest.TestCase):
             ("position as text", lambda: variables.Remove("x"), TYPE_MISMATCH, 1),
             ("position too large", lambda: variables.Remove(1e10), OVERFLOW, 1),
             ("integer too large", lambda: variables.Remove(1 << 64), OVERFLOW, 1),
-            ("position behind", lambda: variables(1), BAD_INDEX, None),
+            ("position after the last", lambda: variables(1), BAD_INDEX, None),
             ("position before", lambda: variables[0], BAD_INDEX, None),
             ("no position", lambda: variables(), MISSING, None),
             ("two positions", lambda: variables(1, 2), WRONG_COUNT, None),

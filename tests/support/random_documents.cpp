@@ -163,7 +163,7 @@ void Replace(std::u16string& text, std::u16string_view piece, std::u16string_vie
 const DocumentFault kDocumentFaults[] = {
     {"text cut off", [](RandomDocuments& random,
                         std::u16string& text) { text.resize(random.Below(text.rfind(u'>'))); }},
-    {"something behind the root",
+    {"something after the root",
      [](RandomDocuments& random, std::u16string& text) {
        text += random.Any({u"<a/>", u"text", u"&#32;", u"<![CDATA[ ]]>", u"</a>"});
      }},

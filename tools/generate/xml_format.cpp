@@ -142,7 +142,7 @@ std::string XmlFormatDocument() {
       "Documents are XML 1.0 in the namespace `PraxenSchema3_0`, which the root element declares "
       "as\n"
       "the default namespace. The schema is [PraxenSchema3_0.xsd](../schema/PraxenSchema3_0.xsd).\n"
-      "The library writes attribute values between apostrophes, and CR LF behind every element\n"
+      "The library writes attribute values between apostrophes, and CR LF after every element\n"
       "unless `maintenance.IncludeCRLFInXML` is false. Attributes and children are written in the\n"
       "order given here. Attributes are read in any order; children are read in this order, and "
       "one\n"

@@ -33,7 +33,7 @@ DecodedText Decode(std::string_view bytes);
 
 enum class Encoding { Utf8, Utf16 };
 
-/// The bytes of a text: UTF-16 in little-endian order behind a byte-order mark, or UTF-8.
+/// The bytes of a text: UTF-16 in little-endian order after a byte-order mark, or UTF-8.
 std::string Encode(const Text& text, Encoding encoding);
 
 }  // namespace praxen::detail

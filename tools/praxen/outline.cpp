@@ -74,7 +74,7 @@ enum class Placement : uint8_t {
   Title,
   /// Behind the title and a colon: the text that is all an element holds.
   Content,
-  /// In the same line, behind its name.
+  /// In the same line, after its name.
   Inline,
   /// In lines of its own.
   Block
@@ -113,7 +113,7 @@ Placement PlacementOf(const ClassDescription& description, const Property& prope
   return IsCode(*property.member) ? Placement::Block : Placement::Inline;
 }
 
-// The place of a property in its element, behind all others when the class writes it itself.
+// The place of a property in its element, after all others when the class writes it itself.
 size_t RankOf(const ClassDescription& description, const Property& property) {
   const std::span<const Attribute> attributes = AttributesOf(description);
   const std::span<const Child> children = ChildrenOf(description);

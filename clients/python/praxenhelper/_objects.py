@@ -39,7 +39,7 @@ def _raise(result, exception, argument):
 
 
 def _invoke(owner, identifier, flags, values, labels, names=()):
-    """Calls a member: the named arguments come first, the others behind them, last one first.
+    """Calls a member: the named arguments come first, the others after them, last one first.
 
     `labels` tell the caller which argument is wrong.
     """
