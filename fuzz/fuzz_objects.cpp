@@ -145,7 +145,7 @@ class Client {
   void GrowResult(Object& object, const Member& member, int depth) {
     const Variant result = Call(object, member);
     if (result.vt != VT_DISPATCH) return;
-    const Ref<Object> grown = detail::ObjectFromVariant(result, nullptr);
+    const Ref<Object> grown = praxen::detail::ObjectFromVariant(result, nullptr);
     if (grown) Grow(*grown, depth);
   }
 

@@ -6,6 +6,7 @@
 #include "fuzz/promises.h"
 #include "praxen/automation/values.h"
 #include "praxen/describe/value_type.h"
+#include "praxen/factory/library.h"
 #include "praxen/praxen.h"
 
 namespace {
@@ -43,7 +44,7 @@ void Read(praxen::detail::FuzzInput input) {
     operation.invokeGet(praxen::detail::SharedFactory(), &argument, result);
   });
   if (!isRead) return;
-  praxen::detail::HoldRoundTrip(*detail::ObjectFromVariant(result, nullptr),
+  praxen::detail::HoldRoundTrip(*praxen::detail::ObjectFromVariant(result, nullptr),
                                 praxen::detail::Values::Carried);
 }
 

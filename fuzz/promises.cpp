@@ -8,6 +8,7 @@
 #include "praxen/core/counters.h"
 #include "praxen/describe/description.h"
 #include "praxen/factory/deserialization.h"
+#include "praxen/xml/xml_limits.h"
 #include "praxen/xml/xml_string_writer.h"
 
 namespace praxen::detail {
