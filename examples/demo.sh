@@ -35,6 +35,13 @@ END
 printf '\n$ plant\n'
 "$build/examples/plant" plant
 
+cat <<'END'
+
+This is one of the documents; they are stored as UTF-16.
+END
+printf '\n$ iconv -f UTF-16 -t UTF-8 plant/pump.xml\n'
+iconv -f UTF-16 -t UTF-8 plant/pump.xml
+
 heading "2. The command line reads the documents"
 cat <<'END'
 "check" validates a document and reads it, writes what it has read, reads and writes that again,

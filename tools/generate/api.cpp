@@ -1,5 +1,8 @@
 // The reference of the published classes.
 #include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
 
 #include "praxen/core/enumerations.h"
 #include "praxen/describe/reflection.h"
@@ -83,6 +86,54 @@ std::string Section(const ClassDescription& description) {
   return text;
 }
 
+// The class of a list's elements; null for a class that is no list.
+const ClassDescription* ElementClass(const ClassDescription& description) {
+  const auto item = std::ranges::find_if(description.members, [](const Member& member) {
+    return member.id == kDefaultMemberId && member.hasFixedId;
+  });
+  return item == description.members.end() ? nullptr : &item->type.object();
+}
+
+std::string Names(const std::vector<const ClassDescription*>& classes) {
+  std::string names;
+  for (const ClassDescription* const each : classes) {
+    names += (names.empty() ? "" : ", ") + Code(each->name);
+  }
+  return names;
+}
+
+// The objects that a class keeps by name, or the elements of a list that no class keeps.
+std::string HeldObjects(const ClassDescription& description,
+                        const std::set<const ClassDescription*>& kept) {
+  if (description.isKind) return Names(ClassesOf(description));
+  if (const ClassDescription* const element = ElementClass(description)) {
+    return kept.contains(&description) ? "" : "elements of " + Code(element->name);
+  }
+  std::string held;
+  for (const Member& member : description.members) {
+    if (!IsKeptObject(member)) continue;
+    held += (held.empty() ? "" : "; ") + Code(member.name);
+    const ClassDescription* const element = ElementClass(member.type.object());
+    if (element != nullptr) held += " of " + Code(element->name);
+  }
+  return held;
+}
+
+std::string Map() {
+  std::set<const ClassDescription*> kept;
+  for (const ClassDescription& description : AllClasses()) {
+    for (const Member& member : description.members) {
+      if (IsKeptObject(member)) kept.insert(&member.type.object());
+    }
+  }
+  std::string text;
+  for (const ClassDescription& description : AllClasses()) {
+    const std::string held = HeldObjects(description, kept);
+    if (!held.empty()) text += "- " + Code(description.name) + ": " + held + "\n";
+  }
+  return text;
+}
+
 std::string EnumerationSection(const EnumerationDescription& enumeration) {
   std::string text = "\n### " + std::string(enumeration.name) + "\n\n" +
                      std::string(enumeration.help) +
@@ -112,7 +163,12 @@ std::string ApiDocument() {
       "that name, a text is a `praxen::Text`, and an object is held by a `praxen::Ref`. Creating\n"
       "members of `ObjectFactory` and of the lists set the properties named by their "
       "parameters.\n\n"
-      "## Classes\n";
+      "Numbers have no unit where none is named. Where the engineering tool's is, the library\n"
+      "keeps the number as it is and converts nothing.\n\n"
+      "## What holds what\n\n"
+      "Lists are followed by the class of their elements; a kind, such as `ICodeBlock`, by the\n"
+      "classes that implement it.\n\n";
+  text += Map() + "\n## Classes\n";
   for (const ClassDescription& description : AllClasses()) text += Section(description);
   text += "\n## Enumerations\n";
   for (const EnumerationDescription* const enumeration : AllEnumerations()) {

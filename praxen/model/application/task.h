@@ -25,12 +25,14 @@ class Task final : public describe::Serializable<Task> {
     using namespace describe;
     return {
         property<&T::Name>("Name of the task."),
-        property<&T::IntervalTime>("Time from one cycle to the next."),
+        property<&T::IntervalTime>(
+            "Time from one cycle to the next, in the engineering tool's unit."),
         property<&T::Priority>("Priority among the tasks."),
-        property<&T::Offset>("Time by which the first cycle is delayed."),
+        property<&T::Offset>(
+            "Time by which the first cycle is delayed, in the unit of IntervalTime."),
         property<&T::OutputUpdate>("When in the cycle the outputs are updated."),
         property<&T::LatencySupervision>("Whether the latency is supervised."),
-        property<&T::LatencyPercentage>("Latency that is accepted."),
+        property<&T::LatencyPercentage>("Latency that is accepted, in per cent."),
         property<&T::TaskSILLevel>("Safety integrity level."),
         property<&T::Guid>("GUID of the task."),
         serialize(),

@@ -22,7 +22,8 @@ class VAVariable : public Described<Class> {
     using namespace describe;
     return {property<&T::Name>("Name or address."),
             property<&T::Path>("Path of the variable in the project."),
-            property<&T::VAType>("Data type."), property<&T::Row>("Row."),
+            property<&T::VAType>("Data type."),
+            property<&T::Row>("Number of the row in the protocol's table."),
             property<&T::VATypePath>("Path of the data type.")};
   }
   static describe::Layout layout() {

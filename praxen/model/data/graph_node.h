@@ -14,8 +14,9 @@ class GraphNode final : public describe::Described<GraphNode> {
   static constexpr std::string_view kHelp = "A named point of a variable or parameter.";
   static describe::Members members() {
     using namespace describe;
-    return {property<&T::Name>("Name of the node."), property<&T::X>("Horizontal coordinate."),
-            property<&T::Y>("Vertical coordinate.")};
+    return {property<&T::Name>("Name of the node."),
+            property<&T::X>("Horizontal coordinate in the type's graphics."),
+            property<&T::Y>("Vertical coordinate in the type's graphics.")};
   }
   static describe::Layout layout() {
     using namespace describe;

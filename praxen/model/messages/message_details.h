@@ -25,10 +25,10 @@ class PosInfo final : public describe::Described<PosInfo> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&T::Row>("Row in the code."),
-        property<&T::Col>("Column in the code."),
-        property<&T::StartPos>("Where the place begins."),
-        property<&T::EndPos>("Where the place ends."),
+        property<&T::Row>("Row in the code, as the engineering tool counts."),
+        property<&T::Col>("Column in the code, as the engineering tool counts."),
+        property<&T::StartPos>("Where the place begins, as the engineering tool counts."),
+        property<&T::EndPos>("Where the place ends, as the engineering tool counts."),
         property<&T::ElementName>("Name of the element."),
         property<&T::FOUName>("Name of the functional unit."),
         property<&T::POUName>("Name of the program organisation unit."),

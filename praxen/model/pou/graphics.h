@@ -14,8 +14,8 @@ class Point final : public describe::Described<Point> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&T::X>("Horizontal coordinate."),
-        property<&T::Y>("Vertical coordinate."),
+        property<&T::X>("Horizontal coordinate in the surrounding graphics."),
+        property<&T::Y>("Vertical coordinate in the surrounding graphics."),
     };
   }
   static describe::Layout layout() {
@@ -44,11 +44,12 @@ class GraphPos final : public describe::Described<GraphPos> {
   static describe::Members members() {
     using namespace describe;
     return {
-        property<&T::XPos>("Horizontal coordinate."),
-        property<&T::YPos>("Vertical coordinate."),
-        property<&T::Rotation>("Angle by which the graphics are turned."),
-        property<&T::XScale>("Horizontal scale factor."),
-        property<&T::YScale>("Vertical scale factor."),
+        property<&T::XPos>("Horizontal coordinate in the surrounding graphics."),
+        property<&T::YPos>("Vertical coordinate in the surrounding graphics."),
+        property<&T::Rotation>(
+            "Angle by which the graphics are turned, in the engineering tool's unit."),
+        property<&T::XScale>("Horizontal scale factor; 1 is the type's own size."),
+        property<&T::YScale>("Vertical scale factor; 1 is the type's own size."),
     };
   }
   static describe::Layout layout() {
