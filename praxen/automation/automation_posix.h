@@ -409,8 +409,8 @@ HRESULT VariantCopyInd(VARIANT* target, const VARIANTARG* source) noexcept;
 /// conversion, DISP_E_OVERFLOW when the value does not fit, DISP_E_BADVARTYPE for a type unknown.
 HRESULT VariantChangeType(VARIANTARG* target, const VARIANTARG* source, USHORT flags,
                           VARTYPE type) noexcept;
-/// As VariantChangeType. The locale is ignored: the decimal separator is ".", digits are grouped
-/// by ",", and there is no conversion between dates and text.
+/// As VariantChangeType. The locale is ignored: numbers become texts with ".", texts become numbers
+/// with that or the user's decimal separator, and there is no conversion between dates and text.
 HRESULT VariantChangeTypeEx(VARIANTARG* target, const VARIANTARG* source, LCID locale, USHORT flags,
                             VARTYPE type) noexcept;
 

@@ -2,6 +2,9 @@
 #ifndef PRAXEN_AUTOMATION_VARIANTS_H_
 #define PRAXEN_AUTOMATION_VARIANTS_H_
 
+#include <cstddef>
+#include <optional>
+
 #include "praxen/automation/automation.h"
 
 namespace praxen::detail {
@@ -16,6 +19,14 @@ struct VariantValue {
 
 /// The value of the variant, its references followed; the type is not checked.
 VariantValue ValueOf(const VARIANT& variant) noexcept;
+
+/// The bytes that a value of the type takes; none for types that the library does not know.
+std::optional<size_t> SizeOfValue(VARTYPE type) noexcept;
+
+/// Makes view the value of source or what it refers to, borrowed: view must not be cleared.
+/// E_INVALIDARG for a null reference and for a reference to a reference to a variant,
+/// DISP_E_BADVARTYPE for a type unknown.
+HRESULT BorrowValue(const VARIANT& source, VARIANT& view) noexcept;
 
 }  // namespace praxen::detail
 

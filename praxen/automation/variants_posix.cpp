@@ -1,49 +1,10 @@
 // The life of variants: empty, copied, dereferenced and cleared.
-#include "praxen/automation/variants_posix.h"
-
-#include <cstring>
-#include <optional>
-
 #include "praxen/automation/variants.h"
 
-namespace {
+using praxen::detail::BorrowValue;
+using praxen::detail::SizeOfValue;
 
-// The bytes that a value of the type takes; none for types that do not exist here.
-std::optional<size_t> SizeOfValue(int type) {
-  switch (type) {
-    case VT_EMPTY:
-    case VT_NULL:
-      return 0;
-    case VT_I1:
-    case VT_UI1:
-      return 1;
-    case VT_I2:
-    case VT_UI2:
-    case VT_BOOL:
-      return 2;
-    case VT_I4:
-    case VT_UI4:
-    case VT_INT:
-    case VT_UINT:
-    case VT_R4:
-    case VT_ERROR:
-      return 4;
-    case VT_I8:
-    case VT_UI8:
-    case VT_R8:
-    case VT_CY:
-    case VT_DATE:
-      return 8;
-    case VT_BSTR:
-    case VT_DISPATCH:
-    case VT_UNKNOWN:
-      return sizeof(void*);
-    case VT_DECIMAL:
-      return sizeof(DECIMAL);
-    default:
-      return std::nullopt;
-  }
-}
+namespace {
 
 bool IsReference(const VARIANT& variant) { return (variant.vt & VT_BYREF) != 0; }
 
@@ -75,26 +36,6 @@ HRESULT Exchange(VARIANT& target, VARIANT copy) {
 
 }  // namespace
 
-namespace praxen::detail {
-
-HRESULT BorrowValue(const VARIANT& source, VARIANT& view) noexcept {
-  const VariantValue value = ValueOf(source);
-  if (value.type == (VT_BYREF | VT_VARIANT)) return E_INVALIDARG;
-  const auto size = SizeOfValue(value.type);
-  if (!size) return DISP_E_BADVARTYPE;
-  if (value.place == nullptr) return E_INVALIDARG;
-  VariantInit(&view);
-  if (value.type == VT_DECIMAL) {
-    view.decVal = *static_cast<const DECIMAL*>(value.place);
-  } else {
-    std::memcpy(&view.llVal, value.place, *size);
-  }
-  view.vt = value.type;
-  return S_OK;
-}
-
-}  // namespace praxen::detail
-
 void VariantInit(VARIANTARG* variant) noexcept {
   if (variant != nullptr) *variant = {};
 }
@@ -121,6 +62,6 @@ HRESULT VariantCopy(VARIANTARG* target, const VARIANTARG* source) noexcept {
 HRESULT VariantCopyInd(VARIANT* target, const VARIANTARG* source) noexcept {
   if (target == nullptr || source == nullptr) return E_INVALIDARG;
   VARIANT view;
-  const HRESULT result = praxen::detail::BorrowValue(*source, view);
+  const HRESULT result = BorrowValue(*source, view);
   return FAILED(result) ? result : Exchange(*target, view);
 }

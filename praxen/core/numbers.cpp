@@ -4,10 +4,12 @@
 #include <charconv>
 #include <cmath>
 #include <iterator>
+#include <optional>
 #include <string>
 
 #include "praxen/core/ascii.h"
 #include "praxen/core/decimal.h"
+#include "praxen/core/decimal_number.h"
 #include "praxen/core/error.h"
 #include "praxen/core/locale.h"
 
@@ -18,31 +20,14 @@ namespace {
 // Numbers of this many digits before the point, or leading zeros after it, get an exponent.
 constexpr int kMostPlainDigits = 15;
 
-// The text in ASCII for from_chars, which takes no "+"; empty when it cannot be a number. What
-// from_chars takes besides numbers, "inf" and "nan", does not begin with a digit or point.
-std::string ToAscii(std::u16string_view text) {
-  text = Trim<char16_t>(text, u" \t\r\n");
-  const bool negative = text.starts_with(u'-');
-  if (negative || text.starts_with(u'+')) text.remove_prefix(1);
-  if (text.empty() || !(text[0] == u'.' || IsDigitAscii(text[0]))) return {};
-  std::string ascii = NarrowAscii(text).value_or("");
-  return negative && !ascii.empty() ? "-" + ascii : ascii;
-}
-
+// Converts a text that has to be a number.
 template <class Number>
-Number Parse(const std::string& ascii) {
-  Number number{};
-  const char* const end = ascii.data() + ascii.size();
-  const auto [stop, error] = std::from_chars(ascii.data(), end, number);
-  if (stop != end || error == std::errc::invalid_argument) throw TypeMismatch();
-  if (error == std::errc::result_out_of_range) throw Overflow();
-  return number;
-}
-
-void ReplaceAll(std::u16string& text, std::u16string_view from, std::u16string_view to) {
-  for (size_t at = 0; (at = text.find(from, at)) != std::u16string::npos; at += to.size()) {
-    text.replace(at, from.size(), to);
-  }
+Number Parse(std::u16string_view text, std::optional<Number> (*convert)(const DecimalNumber&)) {
+  const std::optional<DecimalNumber> decimal = ParseDecimal(text);
+  if (!decimal) throw TypeMismatch();
+  const std::optional<Number> number = convert(*decimal);
+  if (!number) throw Overflow();
+  return *number;
 }
 
 }  // namespace
@@ -71,15 +56,14 @@ void NumberText::Append(std::string_view characters) {
 
 std::u16string DecimalText(size_t number) { return WidenAscii(std::to_string(number)); }
 
-int32_t TextToInteger(std::u16string_view text) { return Parse<int32_t>(ToAscii(text)); }
+int32_t TextToInteger(std::u16string_view text) {
+  return Parse<int32_t>(text, [](const DecimalNumber& number) { return ToWhole<int32_t>(number); });
+}
 
 double XMLTextToDouble(std::u16string_view text) {
   const std::u16string separator = GetDecimalSeparator();
   if (separator.empty() || separator == u" ") throw IllegalDecimalSeparator();
-  if (separator == u".") return Parse<double>(ToAscii(text));
-  std::u16string plain(text);
-  ReplaceAll(plain, separator, u".");
-  return Parse<double>(ToAscii(plain));
+  return Parse<double>(text, ToReal<double>);
 }
 
 }  // namespace praxen::detail

@@ -34,14 +34,15 @@ class NumberText {
 /// The decimal digits of a number.
 std::u16string DecimalText(size_t number);
 
-/// The integer of a decimal text with an optional sign and blanks around it; raises `TypeMismatch`
-/// for any other text and `Overflow` beyond 32 bits.
+/// The integer nearest to a decimal text, halves to even, as of a text given for a property that is
+/// an integer (`ParseDecimal`); raises `TypeMismatch` for a text that is no number and `Overflow`
+/// beyond 32 bits.
 int32_t TextToInteger(std::u16string_view text);
 
 /// The double of a decimal text with "." as decimal point, whatever the user's locale; a text
-/// written with the locale's own separator is taken as well. Raises `IllegalDecimalSeparator` when
-/// the locale's separator is empty or a blank, `TypeMismatch` for a text that is no number and
-/// `Overflow` for one beyond a double.
+/// written with the locale's own separator is taken as well, and one too small for a double is 0.
+/// Raises `IllegalDecimalSeparator` when the locale's separator is empty or a blank, `TypeMismatch`
+/// for a text that is no number and `Overflow` for one beyond a double.
 double XMLTextToDouble(std::u16string_view text);
 
 }  // namespace praxen::detail

@@ -3,6 +3,7 @@
 
 #include <new>
 
+#include "praxen/automation/conversion.h"
 #include "praxen/automation/values.h"
 #include "praxen/automation/variants.h"
 #include "praxen/core/error.h"
@@ -23,12 +24,11 @@ VariantValue ValueOfArgument(const VARIANT& argument) {
   return value;
 }
 
-// The value as the platform converts it; whatever it cannot convert is of the wrong type.
+// The value of another type; whatever cannot be converted is of the wrong type.
 Variant Convert(const VARIANT& argument, VARTYPE type) {
   ValueOfArgument(argument);
   Variant converted;
-  const HRESULT result =
-      VariantChangeType(&converted, const_cast<VARIANT*>(&argument), VARIANT_ALPHABOOL, type);
+  const HRESULT result = ConvertVariant(converted, argument, VARIANT_ALPHABOOL, type);
   if (result == E_OUTOFMEMORY) throw std::bad_alloc();
   if (FAILED(result)) {
     throw ArgumentError{result == DISP_E_OVERFLOW ? result : DISP_E_TYPEMISMATCH, &argument};
@@ -43,10 +43,7 @@ Text TextOfArgument(const VARIANT& argument) {
   return Convert(argument, VT_BSTR).View();
 }
 
-Text TextOf(Variant variant) {
-  if (FAILED(variant.ChangeType(VT_BSTR, VARIANT_ALPHABOOL))) ThrowTypeMismatch();
-  return variant.View();
-}
+Text TextOf(const Variant& variant) { return TextOfArgument(Convert(variant, VT_BSTR)); }
 
 IUnknown* InterfaceOf(const VARIANT& argument) {
   const VariantValue value = ValueOfArgument(argument);

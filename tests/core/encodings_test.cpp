@@ -5,6 +5,8 @@
 #include <clocale>
 #include <limits>
 #include <random>
+#include <sstream>
+#include <string>
 
 #include "praxen/core/enumerations.h"
 #include "praxen/core/error.h"
@@ -100,43 +102,53 @@ TEST(Numbers, ReadBackToTheSameDouble) {
   }
 }
 
-TEST(Numbers, RefuseWhatIsNoNumber) {
-  const uint32_t mismatch = TypeMismatch().number(), overflow = Overflow().number();
+TEST(Numbers, AreReadAsPropertiesTakeThem) {
+  const std::string mismatch = "Type mismatch", overflow = "Overflow";
   struct Case {
     const char16_t* text;
-    uint32_t integer, decimal;  // 0: the text is a number
+    std::string integer, decimal;
   };
   const Case cases[] = {
-      {u"12", 0, 0},
-      {u" +12\t", 0, 0},
-      {u"-12", 0, 0},
+      {u"12", "12", "12"},
+      {u" +12\t", "12", "12"},
+      {u"-12", "-12", "-12"},
+      {u"12.0", "12", "12"},
+      {u"12-", "-12", "-12"},
+      {u"(12)", "-12", "-12"},
+      {u"1e-400", "0", "0"},
       {u"12a", mismatch, mismatch},
       {u"", mismatch, mismatch},
       {u" ", mismatch, mismatch},
       {u"+-1", mismatch, mismatch},
       {u"--1", mismatch, mismatch},
       {u"1 2", mismatch, mismatch},
-      {u"1.5", mismatch, 0},
+      {u"1.5", "2", "1.5"},
+      {u"1.5.", mismatch, mismatch},
       {u"1,5", mismatch, mismatch},
-      {u"1e3", mismatch, 0},
+      {u"1,000", mismatch, mismatch},
+      {u"1e3", "1000", "1000"},
       {u"inf", mismatch, mismatch},
       {u"-nan", mismatch, mismatch},
       {u"0x10", mismatch, mismatch},
       {u"\u0661", mismatch, mismatch},
-      {u"2147483648", overflow, 0},
-      {u"1e999", mismatch, overflow},
+      {u"-2147483648", "-2147483648", "-2147483648"},
+      {u"2147483647.5", overflow, "2147483647.5"},
+      {u"1e999", overflow, overflow},
   };
-  const auto outcome = [](auto convert) -> uint32_t {
+  const auto outcome = [](auto convert) {
     try {
-      convert();
-      return 0;
+      std::ostringstream number;
+      number.precision(17);
+      number << convert();
+      return number.str();
     } catch (const Error& error) {
-      return error.number();
+      return ToUtf8(error.description());
     }
   };
   for (const Case& test : cases) {
-    EXPECT_EQ(outcome([&] { TextToInteger(test.text); }), test.integer) << ToUtf8(test.text);
-    EXPECT_EQ(outcome([&] { XMLTextToDouble(test.text); }), test.decimal) << ToUtf8(test.text);
+    EXPECT_EQ(outcome([&] { return TextToInteger(test.text); }), test.integer) << ToUtf8(test.text);
+    EXPECT_EQ(outcome([&] { return XMLTextToDouble(test.text); }), test.decimal)
+        << ToUtf8(test.text);
   }
 }
 
@@ -149,6 +161,8 @@ TEST_F(SeparatorTest, DecimalsAreReadUnderAnyLocale) {
   SetDecimalSeparatorQuery([] { return std::u16string(u","); });
   EXPECT_EQ(XMLTextToDouble(u"12.5"), 12.5);
   EXPECT_EQ(XMLTextToDouble(u"12,5"), 12.5);
+  EXPECT_EQ(TextToInteger(u"12,0"), 12);
+  EXPECT_THROW(XMLTextToDouble(u"1.000,5"), Error);
   EXPECT_EQ(Text(NumberText(12.5)), u" 12.5");
   for (const char16_t* const separator : {u"", u" "}) {
     static const char16_t* reported;

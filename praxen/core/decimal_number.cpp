@@ -1,5 +1,5 @@
-// Decimal text and numbers, as automation converts them.
-#include "praxen/automation/numbers_posix.h"
+// Reading and writing of decimal digits, independent of the C library's locale.
+#include "praxen/core/decimal_number.h"
 
 #include <algorithm>
 #include <charconv>
@@ -8,6 +8,7 @@
 
 #include "praxen/core/ascii.h"
 #include "praxen/core/decimal.h"
+#include "praxen/core/locale.h"
 
 namespace praxen::detail {
 
@@ -78,18 +79,24 @@ class DecimalParser {
   }
 
   bool ReadDigits() {
-    std::string& digits = number_.digits;
-    while (IsDigitAscii(Peek()) || (!digits.empty() && Peek() == u',')) TakeDigit();
-    number_.point = static_cast<int64_t>(digits.size());
-    if (Skip(u'.')) {
-      while (IsDigitAscii(Peek())) TakeDigit();
-    }
-    return !digits.empty();
+    TakeDigits();
+    number_.point = static_cast<int64_t>(number_.digits.size());
+    if (Skip(u'.') || SkipSeparator()) TakeDigits();
+    return !number_.digits.empty();
   }
 
-  void TakeDigit() {
-    if (Peek() != u',') number_.digits.push_back(static_cast<char>(Peek()));
-    ++at_;
+  void TakeDigits() {
+    for (; IsDigitAscii(Peek()); ++at_) number_.digits.push_back(static_cast<char>(Peek()));
+  }
+
+  // The user is asked only for what cannot be part of a number otherwise; a blank ends it.
+  bool SkipSeparator() {
+    if (at_ == text_.size() || IsBlank(Peek())) return false;
+    if (std::u16string_view(u"eE+-()").find(Peek()) != std::u16string_view::npos) return false;
+    const std::u16string separator = GetDecimalSeparator();
+    if (separator.empty() || !text_.substr(at_).starts_with(separator)) return false;
+    at_ += separator.size();
+    return true;
   }
 
   bool ReadExponent() {
@@ -195,6 +202,33 @@ std::string FormatReal(double value, int significantDigits) {
   const std::string text =
       FormatPositive(Decimal(std::abs(value), significantDigits), significantDigits);
   return value < 0 ? "-" + text : text;
+}
+
+DecimalNumber FromMagnitude(std::array<uint32_t, 3> magnitude, int scale, bool negative) {
+  DecimalNumber number{negative, {}, 0};
+  while (std::ranges::any_of(magnitude, [](uint32_t part) { return part != 0; })) {
+    uint64_t rest = 0;
+    for (uint32_t& part : magnitude) {
+      rest = (rest << 32) | part;
+      part = static_cast<uint32_t>(rest / 10);
+      rest %= 10;
+    }
+    number.digits.push_back(static_cast<char>('0' + rest));
+  }
+  std::ranges::reverse(number.digits);
+  if (!number.digits.empty()) number.point = static_cast<int64_t>(number.digits.size()) - scale;
+  number.digits.erase(number.digits.find_last_not_of('0') + 1);
+  return number;
+}
+
+std::string FormatPlain(const DecimalNumber& number) {
+  const auto point = static_cast<size_t>(std::max<int64_t>(number.point, 0));
+  std::string digits(static_cast<size_t>(std::max<int64_t>(-number.point, 0)), '0');
+  digits += number.digits;
+  if (digits.size() < point) digits.resize(point, '0');
+  std::string text = number.negative && !number.digits.empty() ? "-" : "";
+  text += point == 0 ? "0" : digits.substr(0, point);
+  return digits.size() > point ? text + "." + digits.substr(point) : text;
 }
 
 std::string FormatTenThousandths(int64_t amount) {

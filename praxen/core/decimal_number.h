@@ -1,7 +1,8 @@
-// Decimal text and numbers, as automation converts them.
-#ifndef PRAXEN_AUTOMATION_NUMBERS_POSIX_H_
-#define PRAXEN_AUTOMATION_NUMBERS_POSIX_H_
+// Numbers given as texts and texts given as numbers: one rule on every system.
+#ifndef PRAXEN_CORE_DECIMAL_NUMBER_H_
+#define PRAXEN_CORE_DECIMAL_NUMBER_H_
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -17,8 +18,8 @@ struct DecimalNumber {
   int64_t point = 0;
 };
 
-/// Reads a number with blanks, a sign before or after, parentheses that negate, "," between the
-/// digits before the ".", and an exponent; none when text is anything else.
+/// Reads a number with blanks, a sign before or after, parentheses that negate, "." or the user's
+/// decimal separator, and an exponent. None for any other text: digits are never grouped.
 std::optional<DecimalNumber> ParseDecimal(std::u16string_view text);
 
 /// The nearest T, 0 for a number too small; none for one too large. T is float or double.
@@ -28,6 +29,15 @@ std::optional<T> ToReal(const DecimalNumber& number);
 /// The magnitude times ten to the power of scale, halves rounded to even; none when too large.
 std::optional<uint64_t> ToMagnitude(const DecimalNumber& number, int scale);
 
+/// The same with its sign, as a `T`.
+template <class T>
+std::optional<T> ToWhole(const DecimalNumber& number, int scale = 0) {
+  T value = 0;
+  const std::optional<uint64_t> magnitude = ToMagnitude(number, scale);
+  if (!magnitude || __builtin_mul_overflow(*magnitude, number.negative ? -1 : 1, &value)) return {};
+  return value;
+}
+
 /// The nearest integer, halves to even, whatever the rounding mode of the process.
 double RoundHalfToEven(double value);
 
@@ -35,9 +45,15 @@ double RoundHalfToEven(double value);
 /// digits before or after the decimal point would be more than that.
 std::string FormatReal(double value, int significantDigits);
 
+/// The magnitude of 96 bits, the highest first, divided by ten to the power of scale.
+DecimalNumber FromMagnitude(std::array<uint32_t, 3> magnitude, int scale, bool negative);
+
+/// The number without an exponent and without zeros at either end but the one before the point.
+std::string FormatPlain(const DecimalNumber& number);
+
 /// An amount of ten-thousandths as decimal text without trailing zeros.
 std::string FormatTenThousandths(int64_t amount);
 
 }  // namespace praxen::detail
 
-#endif  // PRAXEN_AUTOMATION_NUMBERS_POSIX_H_
+#endif  // PRAXEN_CORE_DECIMAL_NUMBER_H_
