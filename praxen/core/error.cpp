@@ -11,33 +11,61 @@ Error::Error(uint32_t number, const Text& source, const Text& description, Place
       what_(ToUtf8(description)) {}
 
 Error Error::At(Place place) const {
-  return place_.line != 0 ? *this : Error(number_, source_, description_, place);
+  Error placed(*this);
+  if (place_.line == 0) placed.place_ = place;
+  return placed;
+}
+
+Error Error::With(const Text& detail) const {
+  Error detailed(*this);
+  detailed.detail_ = detail;
+  detailed.what_ = ToUtf8(detail.empty() ? description_ : description_ + u": " + detail);
+  return detailed;
 }
 
 }  // namespace praxen
 
 namespace praxen::detail {
 
+namespace {
+
+constexpr size_t kLongestQuotation = 60;
+
+Text FoundInPlaceOf(std::u16string_view found, std::u16string_view expected) {
+  return Quoted(found) + u" where " + expected + u" is expected";
+}
+
+}  // namespace
+
+Text Quoted(std::u16string_view text) {
+  const bool isCut = text.size() > kLongestQuotation;
+  if (isCut) text = text.substr(0, kLongestQuotation);
+  // Half of a pair of surrogates would not print.
+  if (isCut && text.back() >= 0xD800 && text.back() <= 0xDBFF) text.remove_suffix(1);
+  return u"\""_text + text + (isCut ? u"…\"" : u"\"");
+}
+
 Error BufferRangeError(const Text& source, const Text& description) {
   return {ObjectErrorCode(512), source, description};
 }
 
-Error RequiredFieldsEmpty() { return {ObjectErrorCode(601), {}, u"Required fields empty"_text}; }
+Error RequiredFieldsEmpty(const Text& fields) {
+  return Error(ObjectErrorCode(601), {}, u"Required fields empty"_text).With(fields);
+}
 
 Error InvalidXml(std::u16string_view reason, Place place) {
   return {ObjectErrorCode(603), {}, u"Invalid XML: "_text + reason, place};
 }
 
-Error WrongRootElement() { return {ObjectErrorCode(604), {}, u"Wrong root element"_text}; }
-
-Error WrongRootElement(std::u16string_view name) {
-  const Error error = WrongRootElement();
-  return {error.number(),
-          {},
-          error.description() + u": '" + name + u"' is no document of the exchange format"};
+Error WrongRootElement(std::u16string_view found, std::u16string_view expected) {
+  return Error(ObjectErrorCode(604), {}, u"Wrong root element"_text)
+      .With(FoundInPlaceOf(found, expected));
 }
 
-Error WrongElementName() { return {ObjectErrorCode(605), {}, u"Wrong element name"_text}; }
+Error WrongElementName(std::u16string_view found, std::u16string_view expected) {
+  return Error(ObjectErrorCode(605), {}, u"Wrong element name"_text)
+      .With(FoundInPlaceOf(found, Quoted(expected)));
+}
 
 Error NameConflict() {
   return {ObjectErrorCode(607), {}, u"Name is in conflict with an existing name"_text};

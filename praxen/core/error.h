@@ -21,16 +21,21 @@ class Error : public std::exception {
   /// The class and operation that raised the error; empty for most errors.
   const Text& source() const noexcept { return source_; }
   const Text& description() const noexcept { return description_; }
+  /// What the description leaves open, such as the object and the property that is empty, or what
+  /// was found and expected; empty for many errors. Automation clients do not get it.
+  const Text& detail() const noexcept { return detail_; }
   /// Where in the document that was read the error lies, when it lies in one.
   Place place() const noexcept { return place_; }
   /// The same error with a place, unless it has one.
   Error At(Place place) const;
-  /// The description as UTF-8.
+  /// The same error with that detail.
+  Error With(const Text& detail) const;
+  /// Description and detail as UTF-8.
   const char* what() const noexcept override { return what_.c_str(); }
 
  private:
   uint32_t number_;
-  Text source_, description_;
+  Text source_, description_, detail_;
   Place place_;
   std::string what_;
 };
@@ -42,18 +47,19 @@ constexpr uint32_t ObjectErrorCode(uint32_t number) { return 0x80040000u + numbe
 
 namespace praxen::detail {
 
+/// The text between double quotes, cut after some sixty characters.
+Text Quoted(std::u16string_view text);
+
 /// Object error 512 of the text buffer.
 Error BufferRangeError(const Text& source, const Text& description);
-/// Object error 601: a property that writing requires is empty.
-Error RequiredFieldsEmpty();
+/// Object error 601: properties that writing requires are empty; `fields` names them.
+Error RequiredFieldsEmpty(const Text& fields);
 /// Object error 603: the text is not well-formed or not valid; `reason` is the parser's.
 Error InvalidXml(std::u16string_view reason, Place place);
-/// Object error 604: the document element is not the expected one.
-Error WrongRootElement();
-/// The same where documents of all classes are expected; `name` is that of the element.
-Error WrongRootElement(std::u16string_view name);
+/// Object error 604: the document element is not the expected one. `expected` tells which is.
+Error WrongRootElement(std::u16string_view found, std::u16string_view expected);
 /// Object error 605: a child element is not the expected one.
-Error WrongElementName();
+Error WrongElementName(std::u16string_view found, std::u16string_view expected);
 /// Object error 607: a project constant's name equals another or is a dotted prefix of one.
 Error NameConflict();
 /// Object error 607: the user's locale reports an empty or blank decimal separator.

@@ -51,6 +51,10 @@ Text::Text(std::u16string_view characters) : characters_(kEmpty.characters) {
   characters_ = copy;
 }
 
+Text::Text(std::string_view utf8) : Text(FromUtf8(utf8)) {}
+
+std::string Text::utf8() const { return ToUtf8(view()); }
+
 Text Text::Join(std::u16string_view left, std::u16string_view right) {
   Text joined;
   if (left.empty() && right.empty()) return joined;

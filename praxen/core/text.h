@@ -37,6 +37,9 @@ namespace praxen {
 
 /// An immutable UTF-16 text of the size of one pointer: copying shares, assigning replaces.
 ///
+/// It is made of UTF-16 or of UTF-8, whichever a client has: `u"…"`, `"…"`, `u8"…"` and the strings
+/// and views of the standard library. What is not UTF-8 becomes U+FFFD.
+///
 /// The empty text and texts made with `_text` need no memory of their own. Characters are stored as
 /// given, NUL and unpaired surrogates included; the length is at most 2^31-1 characters. Distinct
 /// texts may be used from distinct threads, also when they share their characters.
@@ -46,7 +49,15 @@ class Text {
   Text(const char16_t* characters) : Text(std::u16string_view(characters)) {}        // NOLINT
   Text(const std::u16string& characters) : Text(std::u16string_view(characters)) {}  // NOLINT
   /// Raises `Overflow` beyond 2^31-1 characters.
-  Text(std::u16string_view characters);  // NOLINT
+  Text(std::u16string_view characters);                                // NOLINT
+  Text(const char* utf8) : Text(std::string_view(utf8)) {}             // NOLINT
+  Text(const std::string& utf8) : Text(std::string_view(utf8)) {}      // NOLINT
+  Text(const char8_t* utf8) : Text(std::u8string_view(utf8)) {}        // NOLINT
+  Text(const std::u8string& utf8) : Text(std::u8string_view(utf8)) {}  // NOLINT
+  Text(std::u8string_view utf8)                                        // NOLINT
+      : Text(std::string_view(reinterpret_cast<const char*>(utf8.data()), utf8.size())) {}
+  /// Raises `Overflow` beyond 2^31-1 UTF-16 characters.
+  Text(std::string_view utf8);  // NOLINT
   Text(const Text& other) noexcept : characters_(other.characters_) { Retain(); }
   Text(Text&& other) noexcept : characters_(other.characters_) {
     other.characters_ = kEmpty.characters;
@@ -78,6 +89,8 @@ class Text {
   std::u16string_view view() const noexcept { return {characters_, block().length}; }
   operator std::u16string_view() const noexcept { return view(); }  // NOLINT
   explicit operator std::u16string() const { return std::u16string(view()); }
+  /// The text as UTF-8; an unpaired surrogate becomes U+FFFD.
+  std::string utf8() const;
 
   friend bool operator==(const Text& left, const Text& right) noexcept {
     return left.characters_ == right.characters_ || left.view() == right.view();

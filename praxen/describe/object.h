@@ -76,6 +76,11 @@ class Object : public detail::Interface {
   /// Appends to a list; the element is of a class that the list's layout names.
   virtual void Append(const Ref<Object>&) {}
 
+  /// The object as a `T`, such as the `STCodeBlock` that an `ICodeBlock` is; an empty reference
+  /// when it is of another class.
+  template <class T>
+  Ref<T> As() noexcept;
+
   /// Set on the object whose document is being written, until its start tag is chosen.
   bool IsRoot = false;
 
@@ -125,6 +130,11 @@ class Ref {
     return *object_;
   }
   explicit operator bool() const noexcept { return object_ != nullptr; }
+  /// The object as a `U`; an empty reference when it is of another class, or none.
+  template <class U>
+  Ref<U> As() const noexcept {
+    return dynamic_cast<U*>(object_);
+  }
   friend bool operator==(const Ref& left, const Ref& right) noexcept = default;
 
  private:
@@ -140,7 +150,12 @@ Ref<T> New() {
 /// The object as a `T`, or an empty reference when it is of another class.
 template <class T, class U>
 Ref<T> Cast(const Ref<U>& object) noexcept {
-  return dynamic_cast<T*>(object.get());
+  return object.template As<T>();
+}
+
+template <class T>
+Ref<T> Object::As() noexcept {
+  return dynamic_cast<T*>(this);
 }
 
 /// A property that clients can only read; the class and the reading of XML fill it.

@@ -19,9 +19,13 @@ class Enumerator;
 class AnyValue {
  public:
   AnyValue() = default;
-  AnyValue(const Text& text) : text_(text) {}      // NOLINT
-  AnyValue(const char16_t* text) : text_(text) {}  // NOLINT
-  /// As the platform's conversion writes it: no leading blank, "." as decimal point.
+  AnyValue(const Text& text) : text_(text) {}  // NOLINT
+  /// Of whatever makes a `Text`; without it a literal would be taken for a boolean.
+  template <class T>
+  requires(std::is_convertible_v<const T&, Text> && !std::is_same_v<T, AnyValue>)  // NOLINTNEXTLINE
+      AnyValue(const T& text)
+      : text_(text) {}
+  /// No leading blank, "." as decimal point.
   AnyValue(int32_t number);  // NOLINT
   AnyValue(double number);   // NOLINT
   /// "True" or "False".

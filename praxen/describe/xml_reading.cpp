@@ -35,6 +35,19 @@ void SetValue(const Attribute& attribute, void* value, std::u16string_view text)
                         [&](int32_t& number) { number = TextToInteger(text); }});
 }
 
+std::u16string_view ExpectedOf(const Attribute& attribute) {
+  return attribute.type.kind == ValueKind::Double ? u"a number" : u"an integer of 32 bits";
+}
+
+// Tells of a text that could not be converted; an illegal separator is not the text's fault.
+Error ConversionError(const Error& error, const Attribute& attribute, const XmlNode& node,
+                      std::u16string_view text) {
+  if (error.number() == IllegalDecimalSeparator().number()) return error;
+  return error.With(Quoted(text) + u" in the attribute " + Quoted(attribute.name) + u" of " +
+                    Quoted(node.nodeName()) + u", where " + ExpectedOf(attribute) +
+                    u" is expected");
+}
+
 void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& node) {
   const XmlAttribute* const found = node.attribute(attribute.xmlName);
   if (found == nullptr) {
@@ -44,7 +57,7 @@ void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& no
   try {
     SetValue(attribute, ValueOf(attribute, object), found->value());
   } catch (const Error& error) {
-    throw error.At(node.place());
+    throw ConversionError(error, attribute, node, found->value()).At(node.place());
   }
 }
 
@@ -99,7 +112,7 @@ bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name) {
 
 std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name) {
   if (!node) return {};
-  if (node.nodeName() != name) throw WrongElementName().At(node.place());
+  if (node.nodeName() != name) throw WrongElementName(node.nodeName(), name).At(node.place());
   return FirstText(node);
 }
 

@@ -43,10 +43,32 @@ void WithText(const Attribute& attribute, const void* value, Consumer consume) {
                         [&](const int32_t& number) { consume(NumberText(number)); }});
 }
 
+// The required attributes that are empty, and what is known of the object they belong to.
+Text EmptyFields(Object& object, const Layout& layout) {
+  Text fields, name;
+  for (const Attribute& attribute : layout.attributes) {
+    if (attribute.type.kind != ValueKind::Text) continue;
+    const Text& value = As<Text>(ValueOf(attribute, object));
+    if (attribute.name == u"Name") name = value;
+    if (attribute.rule != Rule::Required || !value.empty()) continue;
+    fields = (fields.empty() ? fields : fields + u" and ") + WidenAscii(attribute.property);
+  }
+  fields = fields + u" of " + WidenAscii(object.description().name);
+  return name.empty() ? fields : fields + u" " + Quoted(name);
+}
+
 void RequireFields(Object& object, const Layout& layout) {
   for (const std::ptrdiff_t offset : layout.requiredTexts) {
-    if (As<Text>(ValueAt(object, offset)).empty()) throw RequiredFieldsEmpty();
+    if (!As<Text>(ValueAt(object, offset)).empty()) continue;
+    throw RequiredFieldsEmpty(EmptyFields(object, layout));
   }
+}
+
+// Names the place in the list of an element that cannot be written.
+Error InList(const Error& error, size_t index, const Layout& list) {
+  if (error.detail().empty()) return error;
+  return error.With(error.detail() + u", element " + DecimalText(index + 1) + u" of " +
+                    list.element);
 }
 
 void WriteAttributes(Object& object, const Layout& layout, XMLStringWriter& writer) {
@@ -79,7 +101,11 @@ void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) 
   for (size_t i = 0; i < elements.size(); ++i) {
     const Ref<Object> element = elements[i];
     if (mixed && !IsOfChosenClass(*element, list)) continue;
-    element->WriteXML(writer);
+    try {
+      element->WriteXML(writer);
+    } catch (const Error& error) {
+      throw InList(error, i, list);
+    }
   }
 }
 

@@ -25,7 +25,8 @@ Ref<ICodeBlock> CodeBlockDeserialization::operator()(const Text& XMLStr) const {
     block->ReadXML(document.root());
     return Cast<ICodeBlock>(block);
   }
-  throw WrongRootElement().At(document.root().place());
+  const XmlNode root = document.root();
+  throw WrongRootElement(root.nodeName(), u"a code block").At(root.place());
 }
 
 }  // namespace praxen::detail

@@ -52,7 +52,9 @@ const ClassDescription& ClassOf(const XmlNode& root) {
   for (const ClassDescription* const candidate : DocumentClasses()) {
     if (candidate->layout().element == root.nodeName()) candidates.push_back(candidate);
   }
-  if (candidates.empty()) throw WrongRootElement(root.nodeName()).At(root.place());
+  if (candidates.empty()) {
+    throw WrongRootElement(root.nodeName(), u"a document of the exchange format").At(root.place());
+  }
   if (candidates.size() == 1) return *candidates.front();
   return **std::ranges::min_element(candidates, {}, [&](const ClassDescription* candidate) {
     return CountUnknown(candidate->layout(), root);

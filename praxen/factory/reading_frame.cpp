@@ -55,7 +55,8 @@ LoadedDocument::LoadedDocument(const Text& XMLStr) : text_(XMLStr), document_(Re
 
 LoadedDocument::LoadedDocument(const Text& XMLStr, std::u16string_view rootName)
     : LoadedDocument(XMLStr) {
-  if (!IsRoot(rootName)) throw WrongRootElement().At(root().place());
+  if (IsRoot(rootName)) return;
+  throw WrongRootElement(root().nodeName(), Quoted(rootName)).At(root().place());
 }
 
 LoadedDocument::~LoadedDocument() {

@@ -124,6 +124,17 @@ class Collection : public describe::Described<Class, Base> {
     return static_cast<Element*>(elements_[index].get());
   }
   int32_t Count() const { return detail::CountOf(elements_); }
+
+  // The list as C++ has its own: counted from 0.
+
+  size_t size() const noexcept { return elements_.size(); }
+  bool empty() const noexcept { return elements_.empty(); }
+  /// The element at an index from 0 to `size()` - 1; raises `SubscriptOutOfRange` for another.
+  Ref<Element> operator[](size_t index) const {
+    if (index >= elements_.size()) throw detail::SubscriptOutOfRange();
+    return static_cast<Element*>(elements_[index].get());
+  }
+
   /// Removes the element at a position; those after it move up.
   void Remove(int32_t vntIndexKey) {
     const size_t index = detail::ToIndex(vntIndexKey, elements_.size());
@@ -160,11 +171,14 @@ class Collection : public describe::Described<Class, Base> {
   }
 
  protected:
-  /// The position of the first element that matches; -1 when there is none.
+  /// The position of the first element that matches; -1 when there is none. An empty reference
+  /// matches nothing.
   template <class Matches>
   int32_t PositionOf(Matches matches) const {
     for (size_t i = 0; i < elements_.size(); ++i) {
-      if (matches(static_cast<const Element&>(*elements_[i]))) return static_cast<int32_t>(i + 1);
+      const Object* const element = elements_[i].get();
+      if (element == nullptr) continue;
+      if (matches(static_cast<const Element&>(*element))) return static_cast<int32_t>(i + 1);
     }
     return -1;
   }

@@ -46,12 +46,20 @@ TEST(Text, ConvertsToAndFromUtf8) {
       {u"\xD83D", "\xEF\xBF\xBD", false},
   };
   for (const Case& test : cases) {
-    EXPECT_EQ(ToUtf8(test.utf16), test.utf8);
+    EXPECT_EQ(Text(test.utf16).utf8(), test.utf8);
     if (test.bothWays) {
-      EXPECT_EQ(FromUtf8(test.utf8), test.utf16);
+      EXPECT_EQ(Text(test.utf8), test.utf16);
+      EXPECT_EQ(Text(std::string_view(test.utf8)), test.utf16);
+      EXPECT_EQ(Text(test.utf8.c_str()), test.utf16);
     }
   }
-  EXPECT_EQ(FromUtf8("a\xFF\xC3"), u"a\uFFFD\uFFFD");
+  EXPECT_EQ(Text("a\xFF\xC3"), u"a\uFFFD\uFFFD");
+  const std::u8string pump = u8"Pumpe \u00E4";
+  for (const Text& text : {Text(u8"Pumpe \u00E4"), Text(pump), Text(std::u8string_view(pump))}) {
+    EXPECT_EQ(text, u"Pumpe \u00E4");
+  }
+  EXPECT_EQ(Text(std::string_view("a\0b", 3)).size(), 3u);
+  EXPECT_EQ("a" + Text("b") + u8"c" + std::string("d"), "abcd");
 }
 
 }  // namespace

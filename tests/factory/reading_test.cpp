@@ -148,6 +148,9 @@ TEST(Reading, CodeAndCharts) {
       {"<FBDCodeBlock Name='s'><ST_Code>&amp;amp;gt;</ST_Code></FBDCodeBlock>",
        "<FBDCodeBlock Name='s'><ST_Code>&amp;gt;</ST_Code></FBDCodeBlock>"},
       {"<FDCodeBlock Name='f'/>", "<FDCodeBlock Name='f' ><FunctionDiagram/></FDCodeBlock>"},
+      {"<FDCodeBlock Name='f'> \n\t</FDCodeBlock>",
+       "<FDCodeBlock Name='f' ><FunctionDiagram/></FDCodeBlock>"},
+      {"<FDCodeBlock Name='f'> x </FDCodeBlock>", "<FDCodeBlock Name='f' > x </FDCodeBlock>"},
       {"<FDCodeBlock Name='f' ><FunctionDiagram a=\"1\" ><x /><!-- c "
        "--></FunctionDiagram></FDCodeBlock>",
        "<FDCodeBlock Name='f' ><FunctionDiagram a=\"1\" ><x /><!-- c "
@@ -325,6 +328,46 @@ TEST(Reading, ReasonsNameElementAttributeAndPlace) {
     EXPECT_EQ(error.place().line, 2u);
     EXPECT_EQ(error.place().column, 12u);
   }
+}
+
+TEST(Reading, ErrorsTellWhatWasFoundAndExpected) {
+  struct Case {
+    std::string markup, detail;
+  };
+  const std::string node = "<Variable Name='v' Type='t' Attribute=''><GraphNode Name='n' X='";
+  const Case cases[] = {
+      {node + "12a' Y='0'/></Variable>",
+       "\"12a\" in the attribute \"X\" of \"GraphNode\", where a number is expected"},
+      {node + std::string(59, 'x') + "\xF0\x9F\x9A\xB0' Y='0'/></Variable>",
+       "\"" + std::string(59, 'x') +
+           "…\" in the attribute \"X\" of \"GraphNode\", where a number is expected"},
+      {"<MessageBucket NoOfErrors='99999999999' NoOfWarnings='0'/>",
+       "\"99999999999\" in the attribute \"NoOfErrors\" of \"MessageBucket\", where an integer of "
+       "32 bits is expected"},
+      {"<Program Name='p'><Odd/></Program>", "\"Odd\" where \"Description\" is expected"},
+      {"<Odd/>", "\"Odd\" where a document of the exchange format is expected"},
+  };
+  for (const Case& test : cases) {
+    try {
+      ReadDocument(Document(test.markup));
+      ADD_FAILURE() << test.markup;
+    } catch (const Error& error) {
+      EXPECT_EQ(error.detail().utf8(), test.detail);
+      EXPECT_EQ(error.what(), error.description().utf8() + ": " + test.detail);
+    }
+  }
+  const auto detailOf = [](auto read) {
+    try {
+      read(Document("<ExecutionOrder/>"));
+    } catch (const Error& error) {
+      return error.detail();
+    }
+    return Text();
+  };
+  EXPECT_EQ(detailOf(ObjectFactory::DeserializeCodeBlock),
+            "\"ExecutionOrder\" where a code block is expected");
+  EXPECT_EQ(detailOf(ObjectFactory::DeserializeSignal),
+            "\"ExecutionOrder\" where \"Signal\" is expected");
 }
 
 TEST(Reading, CodeBlocksOfAnyLanguage) {

@@ -75,10 +75,29 @@ TEST(Collection, HoldsEmptyReferencesThatCannotBeWritten) {
   const auto list = New<Variables>();
   list->Add(nullptr);
   EXPECT_FALSE(list->Item(1));
-  EXPECT_EQ(ErrorOf([&] { list->Find(u"a"); }), "800A005B Object variable not set");
+  EXPECT_FALSE(list->Find(u"a"));
+  list->Add(Named(u"a"));
+  EXPECT_EQ(list->FindNr(u"a"), 2);
   EXPECT_EQ(ErrorOf([&] { Markup(*list); }), "800A005B Object variable not set");
   list->Remove(1);
+  list->Remove(1);
   EXPECT_EQ(Markup(*list), "");
+}
+
+TEST(Collection, IsAListOfCppToo) {
+  const auto blocks = New<CodeBlocks>();
+  EXPECT_TRUE(blocks->empty());
+  blocks->AddSTCodeBlock2("Control", "Valve := Level < 2.5;");
+  blocks->Add(nullptr);
+  EXPECT_EQ(blocks->size(), 2u);
+  EXPECT_FALSE(blocks->empty());
+  const Ref<ICodeBlock> first = (*blocks)[0];
+  EXPECT_EQ(first, blocks->Item(1));
+  EXPECT_EQ(first.As<STCodeBlock>()->STcode, "Valve := Level < 2.5;");
+  EXPECT_EQ((*blocks->begin()).As<STCodeBlock>(), first);
+  EXPECT_FALSE(first.As<LDCodeBlock>());
+  EXPECT_FALSE((*blocks)[1].As<STCodeBlock>());
+  EXPECT_EQ(ErrorOf([&] { (*blocks)[2]; }), kBadPosition);
 }
 
 TEST(Collection, EnumeratorVisitsWhatTheListHeld) {
@@ -111,10 +130,11 @@ TEST(Collection, CreatesLikeTheFactory) {
 
 TEST(Collection, LooksInitialValuesUpByPathAndName) {
   const auto list = New<InitValues>();
+  list->Add(nullptr);
   list->Add1(u"P", u"x", u"1");
   list->Add1(u"Q", u"x", u"2");
   EXPECT_EQ(list->Find(u"Q", u"x")->Value, u"2");
-  EXPECT_EQ(list->FindNr(u"P", u"x"), 1);
+  EXPECT_EQ(list->FindNr(u"P", u"x"), 2);
   EXPECT_FALSE(list->Find(u"R", u"x"));
   EXPECT_EQ(list->FindNr(u"Q", u"X"), -1);
 }

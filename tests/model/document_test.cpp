@@ -61,9 +61,7 @@ TEST(Documents, AreReadByTheNameOfTheirRoot) {
     FillExample(*object, kDepth);
     const Text document = dynamic_cast<SerializableObject&>(*object).Serialize();
     if (kOnlyWritten.contains(description.name)) {
-      EXPECT_EQ(ErrorOf([&] { ReadDocument(document); }),
-                "604 Wrong root element: '" + ToUtf8(description.layout().element) +
-                    "' is no document of the exchange format");
+      EXPECT_EQ(ErrorOf([&] { ReadDocument(document); }), "604 Wrong root element");
     } else {
       const Ref<Object> read = ReadDocument(document);
       EXPECT_EQ(read->description().name, description.name);

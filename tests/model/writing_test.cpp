@@ -55,6 +55,29 @@ TEST(Writing, AFailureLeavesNoTrace) {
   EXPECT_EQ(program->Serialize(), good);
 }
 
+TEST(Writing, AnErrorTellsWhichFieldsOfWhichObjectAreEmpty) {
+  struct Case {
+    std::string name, type, detail;
+  };
+  const Case cases[] = {
+      {"", "real", "Name of Variable"},
+      {"Level", "", "TypeName of Variable \"Level\""},
+      {"", "", "Name and TypeName of Variable"},
+  };
+  for (const Case& test : cases) {
+    const auto program = ObjectFactory::NewProgram("P", "");
+    program->Variables->Add1("good", "real");
+    program->Variables->Add1(test.name, test.type);
+    try {
+      program->Serialize();
+      ADD_FAILURE();
+    } catch (const Error& error) {
+      EXPECT_EQ(error.detail(), test.detail + ", element 2 of Variables");
+      EXPECT_EQ(error.description(), "Required fields empty");
+    }
+  }
+}
+
 TEST(Writing, ValuesAtTheirCreationAreLeftOut) {
   struct Case {
     std::function<void(CommVariable&)> change;

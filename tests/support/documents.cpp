@@ -61,7 +61,7 @@ std::string ErrorOf(const std::function<void()>& operation) {
     const bool isObjectError = error.number() >> 16 == 0x8004;
     std::snprintf(number, sizeof number, isObjectError ? "%u " : "%08X ",
                   isObjectError ? error.number() & 0xFFFF : error.number());
-    return number + std::string(error.what());
+    return number + error.description().utf8();
   }
 }
 

@@ -144,10 +144,11 @@ TEST_F(CommandLine, AMistakeIsShownWhereItIs) {
   const BrokenDocument documents[] = {
       {"", "-:1:1: error: Invalid XML: ", "  1 | \n    | ^\n"},
       {"<a>\n\t<b></a>\n", "-:2:5: error: Invalid XML: ", "  2 | \t<b></a>\n    | \t   ^\n"},
-      {"\xEF\xBB\xBF<Pump/>", "-:1:1: error: Wrong root element", "  1 | <Pump/>\n    | ^\n"},
+      {"\xEF\xBB\xBF<Pump/>", "-:1:1: error: Wrong root element: \"Pump\" where ",
+       "  1 | <Pump/>\n    | ^\n"},
       {"<Variable/>", "-:1:1: error: Invalid XML: ", "  1 | <Variable/>\n    | ^\n"},
       {head + "a' Colour='b" + tail, "-:1:44: error: Invalid XML: ", "^\n"},
-      {head + tail, "-: error: Required fields empty\n", "empty\n"},
+      {head + tail, "-: error: Required fields empty: Name of Variable\n", "\n"},
       {head + "\xFC" + tail,
        "-:1:41: error: Invalid XML: The bytes are neither UTF-8 nor UTF-16.\n", "^\n"},
       {std::string("<\0a\0/\0>\0\n", 9), "-:1:5: error: Invalid XML: The bytes",

@@ -34,11 +34,12 @@ std::string Indentation(std::u16string_view characters) {
   return indentation;
 }
 
-// The description without the place that a reason of the parser ends with.
-std::u16string WithoutPlace(const Error& error) {
+// Description and detail, without the place that a reason of the parser ends with.
+std::u16string SentenceOf(const Error& error) {
   std::u16string description(error.description());
   const std::u16string place = u" (" + PlaceText(error.place()) + u")";
   if (description.ends_with(place)) description.resize(description.size() - place.size());
+  if (!error.detail().empty()) description.append(u": ").append(error.detail());
   return description;
 }
 
@@ -71,9 +72,9 @@ void PrintError(const std::string& file, std::string_view sentence) {
 
 void PrintError(const std::string& file, const Error& error, const Text& text) {
   const Place place = error.place();
-  if (place.line == 0) return PrintError(file, Printable(error.description()));
+  if (place.line == 0) return PrintError(file, Printable(SentenceOf(error)));
   PrintError(file + ':' + std::to_string(place.line) + ':' + std::to_string(place.column),
-             Printable(WithoutPlace(error)));
+             Printable(SentenceOf(error)));
   std::cerr << SourceLines(text, place) << std::flush;
 }
 

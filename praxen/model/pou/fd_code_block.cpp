@@ -2,6 +2,7 @@
 #include "praxen/model/pou/fd_code_block.h"
 
 #include "praxen/xml/xml_document.h"
+#include "praxen/xml/xml_markup.h"
 #include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
@@ -18,7 +19,9 @@ Layout FDCodeBlock::layout() {
 void FDCodeBlock::WriteDiagram(XMLStringWriter& writer) { writer.WriteXMLElementValue(FDAsXMLStr); }
 
 void FDCodeBlock::ReadDiagram(XmlNode& cursor) {
-  if (!cursor) return;
+  // Blanks between the tags are no diagram.
+  const bool isText = cursor.nodeName() == u"#text";
+  if (!cursor || (isText && IsXmlBlank(cursor.nodeValue()))) return;
   FDAsXMLStr = cursor.Markup();
   cursor = cursor.nextSibling();
 }
