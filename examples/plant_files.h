@@ -3,10 +3,8 @@
 #define PRAXEN_EXAMPLES_PLANT_FILES_H_
 
 #include <filesystem>
-#include <fstream>
 #include <iostream>
 #include <random>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -36,28 +34,6 @@ class TemporaryFolder {
   std::filesystem::path path_;
 };
 
-/// Writes UTF-16 in little-endian order with a byte-order mark, as the documents declare.
-inline void WriteFile(const std::filesystem::path& file, const praxen::Text& text) {
-  std::ofstream stream(file, std::ios::binary);
-  const std::u16string content = u"\uFEFF" + std::u16string(text);
-  for (const char16_t character : content) {
-    stream.put(static_cast<char>(character & 0xFF)).put(static_cast<char>(character >> 8));
-  }
-  if (!stream.flush()) throw std::runtime_error("cannot write " + file.string());
-}
-
-inline praxen::Text ReadFile(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  std::u16string characters;
-  char low = 0;
-  char high = 0;
-  while (stream.get(low).get(high)) {
-    const auto unit = static_cast<unsigned char>(high) << 8 | static_cast<unsigned char>(low);
-    characters.push_back(static_cast<char16_t>(unit));
-  }
-  return characters;
-}
-
 /// Keeps documents in a folder.
 class DocumentFolder {
  public:
@@ -69,8 +45,8 @@ class DocumentFolder {
   template <class Class, class Reading>
   void Keep(const std::string& name, const praxen::Ref<Class>& object, const Reading& read) {
     const praxen::Text text = object->Serialize();
-    WriteFile(path_ / name, text);
-    const bool same = read(ReadFile(path_ / name))->Serialize() == text;
+    praxen::SaveDocument(path_ / name, text);
+    const bool same = read(praxen::LoadDocument(path_ / name))->Serialize() == text;
     std::cout << name << ": " << text.size() << " characters, "
               << (same ? "read back the same" : "read back DIFFERENT") << '\n';
     good_ = good_ && same;

@@ -3,6 +3,7 @@
 #define PRAXEN_PRAXEN_H_
 
 #include "praxen/core/error.h"
+#include "praxen/factory/document_file.h"
 #include "praxen/factory/object_factory.h"
 #include "praxen/factory/read_document.h"
 #include "praxen/model/maintenance.h"

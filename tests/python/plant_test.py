@@ -7,7 +7,7 @@ import sys
 import tempfile
 import unittest
 
-SCRIPT = pathlib.Path(__file__).parents[2] / "clients" / "python" / "examples" / "plant.py"
+EXAMPLES = pathlib.Path(__file__).parents[2] / "clients" / "python" / "examples"
 
 
 def documents(command, folder, without=()):
@@ -29,9 +29,23 @@ class PlantTest(unittest.TestCase):
             expected = documents(
                 [os.environ["PRAXEN_PLANT"]], pathlib.Path(folder, "c++"), without=["LD_PRELOAD"]
             )
-            written = documents([sys.executable, "-B", SCRIPT], pathlib.Path(folder, "python"))
+            written = documents([sys.executable, "-B", EXAMPLES / "plant.py"], pathlib.Path(folder, "python"))
         self.assertGreater(len(expected), 10)
         self.assertEqual(written.keys(), expected.keys())
         for name in expected:
             with self.subTest(name):
                 self.assertEqual(written[name], expected[name])
+
+    def test_variables_of_a_folder_as_a_table(self):
+        table = [sys.executable, "-B", EXAMPLES / "variables.py"]
+        with tempfile.TemporaryDirectory() as folder:
+            documents([os.environ["PRAXEN_PLANT"]], pathlib.Path(folder), without=["LD_PRELOAD"])
+            good = subprocess.run([*table, folder], capture_output=True, text=True, timeout=120)
+            pathlib.Path(folder, "broken.xml").write_text("<Program")
+            bad = subprocess.run([*table, folder], capture_output=True, text=True, timeout=120)
+        self.assertEqual((good.returncode, good.stderr), (0, ""))
+        self.assertIn(
+            "level_control.xml,LevelControl,Setpoint,real,2.5,In metres\n", good.stdout
+        )
+        self.assertEqual((bad.returncode, bad.stdout), (1, good.stdout))
+        self.assertIn("broken.xml: ", bad.stderr)

@@ -12,6 +12,22 @@ function check(what, actual, expected) {
 
 function create(name) { return new ActiveXObject("PraxenHelper." + name); }
 
+function loadDocument(file) {
+  var stream = new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(file, 1, false, -1);
+  var xml = stream.ReadAll();
+  stream.Close();
+  return xml;
+}
+
+function saveDocument(file, xml) {
+  var stream = new ActiveXObject("Scripting.FileSystemObject").CreateTextFile(file, true, true);
+  stream.Write(xml);
+  stream.Close();
+}
+
+var files = new ActiveXObject("Scripting.FileSystemObject");
+var scratch = files.BuildPath(files.GetSpecialFolder(2), files.GetTempName());
+
 function addVariables(owner) {
   owner.Name = "Unit";
   owner.Variables.Add1("Level", "real");
@@ -105,7 +121,8 @@ function roundTrip(factory, family) {
   var object = create(name);
   family[1](object);
   var document = object.Serialize();
-  var copy = factory["Deserialize" + (family[2] || name)](document);
+  saveDocument(scratch, document);
+  var copy = factory["Deserialize" + (family[2] || name)](loadDocument(scratch));
   check(name, copy.Serialize(), document);
 }
 
@@ -120,6 +137,7 @@ for (var i = 0; i < families.length; i++) {
     check(families[i][0], error.number + " " + error.message, "no error");
   }
 }
+files.DeleteFile(scratch);
 CollectGarbage();
 check("objects left", maintenance.NrOfObjects - before, 0);
 

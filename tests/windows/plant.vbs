@@ -3,17 +3,28 @@
 ' stopped does not.
 Option Explicit
 
-Dim factory, files, folder
+Dim factory, folder
 Set factory = CreateObject("PraxenHelper.ObjectFactory")
-Set files = CreateObject("Scripting.FileSystemObject")
 folder = WScript.Arguments(0)
 
-' Writes UTF-16 with a byte-order mark, as the document declares.
+Function LoadDocument(file)
+  Dim stream
+  Set stream = CreateObject("Scripting.FileSystemObject").OpenTextFile(file, 1, False, -1)
+  LoadDocument = stream.ReadAll
+  stream.Close
+End Function
+
+Sub SaveDocument(file, xml)
+  Dim stream
+  Set stream = CreateObject("Scripting.FileSystemObject").CreateTextFile(file, True, True)
+  stream.Write xml
+  stream.Close
+End Sub
+
+' Stores the document as a file, which has to hold it afterwards.
 Sub Keep(name, document)
-  Dim file
-  Set file = files.CreateTextFile(folder & "\" & name, True, True)
-  file.Write document
-  file.Close
+  SaveDocument folder & "\" & name, document
+  If LoadDocument(folder & "\" & name) <> document Then Err.Raise 1, , name & " reads differently"
 End Sub
 
 Function PumpStatus

@@ -8,7 +8,7 @@ import pathlib
 import sys
 import tempfile
 
-from praxenhelper import Dispatch, constants
+from praxenhelper import Dispatch, constants, load, save
 
 factory = Dispatch("PraxenHelper.ObjectFactory")
 
@@ -258,9 +258,9 @@ DOCUMENTS = (
 
 
 def keep(file, document, read):
-    """Writes UTF-16 with a byte-order mark, as the document declares, and reads it back."""
-    file.write_bytes(b"\xff\xfe" + document.encode("utf-16-le"))
-    same = read(file.read_bytes().decode("utf-16")).Serialize() == document
+    """Stores the document in the file and reads it back."""
+    save(file, document)
+    same = read(load(file)).Serialize() == document
     outcome = "the same" if same else "DIFFERENT"
     print(f"{file.name}: {len(document)} characters, read back {outcome}")
     return same

@@ -25,6 +25,7 @@ if sys.platform == "win32":
     )
 
 from ._errors import AutomationError, UnknownMemberError, com_error
+from ._files import load, save
 from ._objects import AutomationObject, Dispatch, constants
 
 __all__ = [
@@ -34,4 +35,6 @@ __all__ = [
     "UnknownMemberError",
     "com_error",
     "constants",
+    "load",
+    "save",
 ]
