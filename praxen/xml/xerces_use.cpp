@@ -1,6 +1,7 @@
 // Initialising Xerces, which counts its users, but not for several threads.
 #include "praxen/xml/xerces_use.h"
 
+#include <cstddef>
 #include <mutex>
 #include <new>
 #include <xercesc/util/PanicHandler.hpp>
@@ -16,17 +17,17 @@ class NoPanic final : public xercesc::PanicHandler {
   void panic(const PanicReasons) override { throw std::bad_alloc(); }
 };
 
-std::mutex& Mutex() {
-  static std::mutex& mutex = *new std::mutex;
-  return mutex;
-}
+constinit std::mutex mutex;
 
 }  // namespace
 
 XercesUse::XercesUse() {
-  const std::lock_guard lock(Mutex());
+  const std::lock_guard lock(mutex);
   static bool isBroken = false;
-  static NoPanic& panic = *new NoPanic;
+  // Never destroyed, since Xerces may be in use when static objects are; in no heap, so that
+  // nothing stays behind when the library is unloaded.
+  alignas(NoPanic) static std::byte place[sizeof(NoPanic)];
+  static NoPanic& panic = *new (place) NoPanic;
   if (isBroken) throw std::bad_alloc();
   isBroken = true;
   xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, &panic);
@@ -34,7 +35,7 @@ XercesUse::XercesUse() {
 }
 
 XercesUse::~XercesUse() {
-  const std::lock_guard lock(Mutex());
+  const std::lock_guard lock(mutex);
   xercesc::XMLPlatformUtils::Terminate();
 }
 

@@ -19,9 +19,10 @@ namespace {
 
 std::unique_ptr<xercesc::SGXMLScanner> MakeScanner(xercesc::XMLDocumentHandler* handler,
                                                    NoEntities& entities, XmlReporter& reporter,
-                                                   xercesc::GrammarResolver& grammars) {
-  auto scanner = std::make_unique<xercesc::SGXMLScanner>(
-      handler, nullptr, &entities, &reporter, nullptr, &grammars, &XmlMemory::Instance());
+                                                   xercesc::GrammarResolver& grammars,
+                                                   XmlMemory& memory) {
+  auto scanner = std::make_unique<xercesc::SGXMLScanner>(handler, nullptr, &entities, &reporter,
+                                                         nullptr, &grammars, &memory);
   scanner->setURIStringPool(grammars.getStringPool());
   scanner->setValidationScheme(xercesc::XMLScanner::Val_Always);
   scanner->setLoadSchema(false);
@@ -35,7 +36,6 @@ const XMLByte* Bytes(const void* data) { return static_cast<const XMLByte*>(data
 // Does work of Xerces, which has an exception of its own for memory that runs out.
 template <class Work>
 auto WithMemory(Work work) {
-  XmlMemory::Instance().ForgetShortage();
   try {
     return work();
   } catch (const xercesc::OutOfMemoryException&) {
@@ -73,23 +73,24 @@ XmlEngine::XmlEngine(const XmlSchemaSource& schema) {
   schemaError_ =
       Run([&] { Compile(schema); },
           [&] { return ExplainSchemaComplaint(FromUtf8(schema.systemId), reporter_.complaint()); });
-  XmlMemory::Instance().RequireNoShortage();
+  memory_->RequireNoShortage();
   if (!schemaError_.reason.empty()) return;
   pool_.lockPool();
-  grammars_ = std::make_unique<xercesc::GrammarResolver>(&pool_, &XmlMemory::Instance());
-  scanner_ = MakeScanner(&builder_, entities_, reporter_, *grammars_);
+  grammars_ = std::make_unique<xercesc::GrammarResolver>(&pool_, memory_.get());
+  scanner_ = MakeScanner(&builder_, entities_, reporter_, *grammars_, *memory_);
   scanner_->useCachedGrammarInParse(true);
   ownNamespaces_ = CountNamespaces();
-  XmlMemory::Instance().RequireNoShortage();
+  memory_->RequireNoShortage();
   builder_.onElement = [this] {
-    XmlMemory::Instance().RequireNoShortage();
+    memory_->RequireNoShortage();
     CheckNames();
   };
 }
 
-XmlEngine::~XmlEngine() { release_.emplace(XmlMemory::Instance()); }
+XmlEngine::~XmlEngine() { release_.emplace(*memory_); }
 
 XmlLoadResult XmlEngine::Load(std::u16string_view text, XmlTree& tree) {
+  memory_->ForgetShortage();
   return WithMemory([&] {
     // What a parser that could not end is good for is not known.
     retired_ = true;
@@ -101,15 +102,15 @@ XmlLoadResult XmlEngine::Load(std::u16string_view text, XmlTree& tree) {
                                          {builder_.startedElements(), builder_.openElement()});
             });
     result.rootDeclared = builder_.rootDeclared();
-    XmlMemory::Instance().RequireNoShortage();
+    memory_->RequireNoShortage();
     retired_ = CountNamespaces() > ownNamespaces_ + kMaxXmlForeignNames / 2;
     return result;
   });
 }
 
 void XmlEngine::Compile(const XmlSchemaSource& schema) {
-  xercesc::GrammarResolver grammars(&pool_, &XmlMemory::Instance());
-  const auto scanner = MakeScanner(nullptr, entities_, reporter_, grammars);
+  xercesc::GrammarResolver grammars(&pool_, memory_.get());
+  const auto scanner = MakeScanner(nullptr, entities_, reporter_, grammars, *memory_);
   const xercesc::MemBufInputSource source(Bytes(schema.content.data()), schema.content.size(),
                                           schema.systemId.c_str());
   reporter_.Begin(nullptr);

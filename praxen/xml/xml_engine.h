@@ -63,14 +63,16 @@ class XmlEngine {
   void CheckNames();
   size_t CountNamespaces() const { return grammars_->getStringPool()->getStringCount(); }
 
-  /// Held while the members are destroyed.
-  std::optional<XmlMemory::Release> release_;
   /// Everything else needs Xerces up to its end.
   const XercesUse xerces_;
+  /// Too large to stand in the engine.
+  const std::unique_ptr<XmlMemory> memory_ = std::make_unique_for_overwrite<XmlMemory>();
+  /// Held while the members after it are destroyed.
+  std::optional<XmlMemory::Release> release_;
   NoEntities entities_;
   XmlReporter reporter_;
   XmlTreeBuilder builder_;
-  xercesc::XMLGrammarPoolImpl pool_{&XmlMemory::Instance()};
+  xercesc::XMLGrammarPoolImpl pool_{memory_.get()};
   std::unique_ptr<xercesc::GrammarResolver> grammars_;
   std::unique_ptr<xercesc::SGXMLScanner> scanner_;
   XmlParseError schemaError_;

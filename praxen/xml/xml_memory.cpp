@@ -5,6 +5,7 @@
 #include <exception>
 #include <functional>
 #include <new>
+#include <utility>
 #include <xercesc/internal/XMLReader.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 
@@ -21,16 +22,11 @@ bool IsReader(size_t size) {
 
 }  // namespace
 
-XmlMemory& XmlMemory::Instance() {
-  // In no heap, so that nothing stays behind when the library is unloaded.
-  alignas(XmlMemory) static std::byte place[sizeof(XmlMemory)];
-  static XmlMemory& memory = *new (place) XmlMemory;
-  return memory;
-}
+XmlMemory::~XmlMemory() { ::operator delete(spareReader_); }
 
 void* XmlMemory::allocate(XMLSize_t size) {
   const bool isReader = IsReader(size);
-  void* memory = isReader ? spareReader_.exchange(nullptr) : nullptr;
+  void* memory = isReader ? std::exchange(spareReader_, nullptr) : nullptr;
   if (memory == nullptr) memory = ::operator new(size, std::nothrow);
   if (memory == nullptr) memory = FromReserve(size);
   if (memory == nullptr) throw xercesc::OutOfMemoryException();
@@ -40,26 +36,20 @@ void* XmlMemory::allocate(XMLSize_t size) {
 }
 
 void XmlMemory::deallocate(void* memory) {
-  if (!IsReserve(memory)) {
-    void* reader = memory;
-    const bool isReader = memory != nullptr && reader_.compare_exchange_strong(reader, nullptr);
-    return ::operator delete(isReader ? spareReader_.exchange(memory) : memory);
+  if (IsReserve(memory)) {
+    if (--pieces_ == 0) used_ = 0;
+    return;
   }
-  const std::lock_guard lock(mutex_);
-  if (--pieces_ == 0) used_ = 0;
-}
-
-void XmlMemory::GiveUpSpareReader() noexcept { ::operator delete(spareReader_.exchange(nullptr)); }
-
-void XmlMemory::CountReleases(int change) {
-  const std::lock_guard lock(mutex_);
-  releases_ += change;
+  if (memory != nullptr && memory == reader_) {
+    reader_ = nullptr;
+    memory = std::exchange(spareReader_, memory);
+  }
+  ::operator delete(memory);
 }
 
 // Null where an exception may be raised instead, and when nothing is left.
 void* XmlMemory::FromReserve(size_t size) {
   constexpr size_t kStep = alignof(std::max_align_t);
-  const std::lock_guard lock(mutex_);
   const bool mustSucceed = releases_ != 0 || std::uncaught_exceptions() != 0;
   if (!mustSucceed && size > kSmallRequest) return nullptr;
   const size_t most = mustSucceed ? kReserve : kReserve - kLastReserve;

@@ -2,43 +2,41 @@
 #ifndef PRAXEN_XML_XML_MEMORY_H_
 #define PRAXEN_XML_XML_MEMORY_H_
 
-#include <atomic>
 #include <cstddef>
-#include <mutex>
 #include <new>
 #include <xercesc/framework/MemoryManager.hpp>
 
 namespace praxen::detail {
 
-/// Gives Xerces the memory of grammars and scanners, with a reserve: destructors of Xerces
-/// ask for memory, too, and an exception that leaves one would end the process. Small requests are
-/// therefore met from the reserve first, and that memory ran out is reported by
-/// `RequireNoShortage`.
+/// Gives Xerces the memory of the grammars and scanners of one engine, with a reserve: destructors
+/// of Xerces ask for memory, too, and an exception that leaves one would end the process. Small
+/// requests are therefore met from the reserve first, and that memory ran out is reported by
+/// `RequireNoShortage`. An engine and its memory are used by one thread at a time.
 class XmlMemory final : public xercesc::MemoryManager {
  public:
-  /// While one lives on any thread, the reserve may be used to its end.
+  /// While one lives, the reserve may be used to its end.
   class Release {
    public:
-    explicit Release(XmlMemory& memory) : memory_(memory) { memory_.CountReleases(1); }
+    explicit Release(XmlMemory& memory) : memory_(memory) { ++memory_.releases_; }
     Release(const Release&) = delete;
     Release& operator=(const Release&) = delete;
-    ~Release() {
-      memory_.CountReleases(-1);
-      memory_.GiveUpSpareReader();
-    }
+    ~Release() { --memory_.releases_; }
 
    private:
     XmlMemory& memory_;
   };
 
-  /// The one of the library, which is never destroyed.
-  static XmlMemory& Instance();
+  XmlMemory() = default;
+  XmlMemory(const XmlMemory&) = delete;
+  XmlMemory& operator=(const XmlMemory&) = delete;
+  /// Everything that was given out is back by then.
+  ~XmlMemory() override;
 
   xercesc::MemoryManager* getExceptionMemoryManager() override { return this; }
   void ForgetShortage() { shortage_ = false; }
   /// Raises std::bad_alloc when the reserve has been drawn on.
   void RequireNoShortage() const {
-    if (shortage_.load(std::memory_order_relaxed)) throw std::bad_alloc();
+    if (shortage_) throw std::bad_alloc();
   }
   /// Raises Xerces' OutOfMemoryException when the reserve does not suffice either.
   void* allocate(XMLSize_t size) override;
@@ -51,20 +49,15 @@ class XmlMemory final : public xercesc::MemoryManager {
   static constexpr size_t kLastReserve = size_t{1} << 20;
   static constexpr size_t kSmallRequest = 256;
 
-  XmlMemory() = default;
-
-  void CountReleases(int change);
-  void GiveUpSpareReader() noexcept;
   void* FromReserve(size_t size);
   bool IsReserve(const void* memory) const;
 
-  std::mutex mutex_;
   /// The memory of the reader that was given out last, and of one that is back: every document
   /// takes one, and it is too large for the allocator to have at hand.
-  std::atomic<void*> reader_ = nullptr;
-  std::atomic<void*> spareReader_ = nullptr;
+  void* reader_ = nullptr;
+  void* spareReader_ = nullptr;
   int releases_ = 0;
-  std::atomic<bool> shortage_ = false;
+  bool shortage_ = false;
   size_t used_ = 0;
   size_t pieces_ = 0;
   alignas(std::max_align_t) std::byte reserve_[kReserve];

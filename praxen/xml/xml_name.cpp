@@ -1,16 +1,15 @@
 // The table of names.
 #include "praxen/xml/xml_name.h"
 
+#include <map>
 #include <mutex>
 
 namespace praxen::detail {
-namespace {
-
 class NameTable {
  public:
-  // The table outlives every static object that may still hold a name.
-  static NameTable& Shared() {
-    static NameTable& table = *new NameTable;
+  // Users of names hold the table, so that it outlives those that are static objects.
+  static const std::shared_ptr<NameTable>& Shared() {
+    static const std::shared_ptr<NameTable> table = std::make_shared<NameTable>();
     return table;
   }
 
@@ -33,20 +32,22 @@ class NameTable {
   std::map<std::u16string, size_t, std::less<>> users_;
 };
 
-}  // namespace
+XmlName InternXmlName(std::u16string_view name) { return NameTable::Shared()->Acquire(name); }
 
-XmlName InternXmlName(std::u16string_view name) { return NameTable::Shared().Acquire(name); }
+XmlNameUser::XmlNameUser() : table_(NameTable::Shared()) {}
+
+XmlNameUser::~XmlNameUser() { Clear(); }
 
 XmlName XmlNameUser::Intern(std::u16string_view name) {
   const auto known = names_.find(name);
   if (known != names_.end()) return known->second;
-  const XmlName acquired = NameTable::Shared().Acquire(name);
+  const XmlName acquired = table_->Acquire(name);
   names_.emplace(*acquired, acquired);
   return acquired;
 }
 
 void XmlNameUser::Clear() {
-  for (const auto& [text, name] : names_) NameTable::Shared().Release(name);
+  for (const auto& [text, name] : names_) table_->Release(name);
   names_.clear();
 }
 

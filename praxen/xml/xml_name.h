@@ -3,12 +3,14 @@
 #define PRAXEN_XML_XML_NAME_H_
 
 #include <cstddef>
-#include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 
 namespace praxen::detail {
+
+class NameTable;
 
 /// The name of an element or attribute, kept once: two names are equal when their pointers are.
 using XmlName = const std::u16string*;
@@ -18,13 +20,14 @@ using XmlName = const std::u16string*;
 XmlName InternXmlName(std::u16string_view name);
 
 /// Names in use by a document, which are given up with it, so that documents full of foreign names
-/// leave nothing behind.
+/// leave nothing behind. Users may be on different threads; only a name that is new to one waits
+/// for others.
 class XmlNameUser {
  public:
-  XmlNameUser() = default;
+  XmlNameUser();
   XmlNameUser(const XmlNameUser&) = delete;
   XmlNameUser& operator=(const XmlNameUser&) = delete;
-  ~XmlNameUser() { Clear(); }
+  ~XmlNameUser();
 
   /// The name, valid until `Clear`.
   XmlName Intern(std::u16string_view name);
@@ -32,6 +35,7 @@ class XmlNameUser {
   void Clear();
 
  private:
+  const std::shared_ptr<NameTable> table_;
   /// Ordered, so that no choice of names makes looking up slow.
   std::map<std::u16string_view, XmlName> names_;
 };

@@ -9,6 +9,8 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <thread>
+#include <vector>
 
 #include "praxen/xml/xml_limits.h"
 
@@ -435,6 +437,33 @@ TEST(XmlDocument, LoadsOnAfterManyForeignNamespaces) {
     EXPECT_EQ(Narrow(document.documentElement().firstChild().nodeName()), "b");
   }
   EXPECT_TRUE(document.LoadXML(kGood));
+}
+
+// Distinct documents are used by distinct threads at once, from the start of the parser to its end.
+TEST(XmlDocument, DistinctOnesServeDistinctThreads) {
+  const auto work = [](const std::u16string& own, size_t& wrong) {
+    for (size_t round = 0; round < 4; ++round) {
+      XmlDocument document(TestSchema);
+      for (size_t i = 0; i < 100; ++i) {
+        const std::u16string name = own + DecimalText(i);
+        const bool loaded = document.LoadXML(u"<List xmlns='urn:test' Name='" + name + u"'><" +
+                                             name + u"/><Value>" + name + u"</Value></List>");
+        const XmlNode child = document.documentElement().firstChild();
+        if (!loaded || child.nodeName() != name ||
+            child.nextSibling().firstChild().nodeValue() != name) {
+          ++wrong;
+        }
+        if (document.LoadXML(u"<List xmlns='urn:test'/>")) ++wrong;
+      }
+    }
+  };
+  size_t wrong[4] = {};
+  std::vector<std::thread> threads;
+  for (size_t i = 0; i < std::size(wrong); ++i) {
+    threads.emplace_back(work, u"thread" + DecimalText(i) + u"-", std::ref(wrong[i]));
+  }
+  for (std::thread& thread : threads) thread.join();
+  for (const size_t count : wrong) EXPECT_EQ(count, 0u);
 }
 
 // Whatever is done to one character of a document, or to its end, it loads or fails with a reason
