@@ -2,8 +2,10 @@
 #include <new>
 
 #include "praxen/automation/automation.h"
+#include "praxen/automation/border.h"
 #include "praxen/automation/counted.h"
 #include "praxen/automation/values.h"
+#include "praxen/core/thread_state.h"
 
 namespace {
 
@@ -88,19 +90,31 @@ class ErrorObject final : public praxen::detail::Counted<ICreateErrorInfo, IErro
   DWORD helpContext_ = 0;
 };
 
-thread_local praxen::ComPointer<IErrorInfo> currentError;
+struct CurrentError final : praxen::detail::KeptByThread {
+  praxen::ComPointer<IErrorInfo> info;
+};
+
+// Null when there is no memory for it.
+CurrentError* OfThread() noexcept {
+  return praxen::detail::AtBorder(
+      [] { return &praxen::detail::ThreadState::Current().Keep<CurrentError>(); },
+      [] { return nullptr; });
+}
 
 }  // namespace
 
 HRESULT SetErrorInfo(ULONG reserved, IErrorInfo* info) noexcept {
   if (reserved != 0) return E_INVALIDARG;
-  currentError = praxen::ComPointer<IErrorInfo>(info);
+  CurrentError* const current = OfThread();
+  if (current == nullptr) return E_OUTOFMEMORY;
+  current->info = praxen::ComPointer<IErrorInfo>(info);
   return S_OK;
 }
 
 HRESULT GetErrorInfo(ULONG reserved, IErrorInfo** info) noexcept {
   if (reserved != 0 || info == nullptr) return E_INVALIDARG;
-  *info = currentError.Detach();
+  CurrentError* const current = OfThread();
+  *info = current == nullptr ? nullptr : current->info.Detach();
   return *info == nullptr ? S_FALSE : S_OK;
 }
 

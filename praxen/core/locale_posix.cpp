@@ -8,6 +8,7 @@
 
 #include "praxen/core/locale.h"
 #include "praxen/core/text.h"
+#include "praxen/core/thread_state.h"
 
 namespace praxen::detail {
 
@@ -44,12 +45,12 @@ std::u16string SeparatorOf(const char* localeName) {
 // Asked for every number, so the answer is kept until another locale is chosen. A locale that is
 // not installed leaves programs in the C locale, and so does this.
 std::u16string SystemDecimalSeparator() {
-  struct Answer {
+  struct Answer final : KeptByThread {
     bool known = false;
     std::string locale;
     std::u16string separator;
   };
-  thread_local Answer answer;
+  Answer& answer = ThreadState::Current().Keep<Answer>();
   const std::string_view chosen = ChosenLocale();
   if (answer.known && answer.locale == chosen) return answer.separator;
   answer.locale = chosen;

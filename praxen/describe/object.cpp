@@ -1,41 +1,51 @@
 // Counting and destruction of objects.
 #include "praxen/describe/object.h"
 
+#include <mutex>
+#include <utility>
+
 #include "praxen/core/counters.h"
 #include "praxen/core/error.h"
+#include "praxen/core/thread_state.h"
 #include "praxen/describe/description.h"
 
 namespace praxen {
 
 using namespace detail;
 
-Object::Object(const ClassDescription& description, Counting counting) : counting_(counting) {
-  table = description.interfaceTable();
-  if (counting == Counting::Yes) CountObject();
-  CountModuleObject(1);
-}
-
-Object::~Object() {
-  if (counting_ == Counting::Yes) UncountObject();
-  CountModuleObject(-1);
-}
+namespace {
 
 // Destroying an object releases what it contains. What dies from that is queued, not destroyed at
 // once, so a chain of any length needs no more stack than one object. The queue is linked through
 // the table pointers, which a dying object no longer needs.
-void Object::Destroy() noexcept {
-  static constinit Object* doomed = nullptr;
-  static constinit bool destroying = false;
-  table = reinterpret_cast<const void* const*>(doomed);
-  doomed = this;
-  if (destroying) return;
-  destroying = true;
-  while (doomed != nullptr) {
-    Object* const next = doomed;
-    doomed = reinterpret_cast<Object*>(const_cast<const void**>(next->table));
+void Destroy(Object& object, ThreadState::Doomed& doomed) noexcept {
+  object.table = static_cast<const void* const*>(doomed.first);
+  doomed.first = &object;
+  if (std::exchange(doomed.isDestroying, true)) return;
+  while (doomed.first != nullptr) {
+    auto* const next = static_cast<Object*>(doomed.first);
+    doomed.first = const_cast<const void**>(next->table);
     delete next;
   }
-  destroying = false;
+  doomed.isDestroying = false;
+}
+
+}  // namespace
+
+Object::Object(const ClassDescription& description, Counting counting) : counting_(counting) {
+  table = description.interfaceTable();
+  counting == Counting::Yes ? CountObject() : CountModuleObject(1);
+}
+
+Object::~Object() { counting_ == Counting::Yes ? UncountObject() : CountModuleObject(-1); }
+
+void Object::Destroy() noexcept {
+  if (ThreadState* const state = ThreadState::Find()) return praxen::Destroy(*this, state->doomed);
+  // Threads that memory is too short for take turns.
+  static std::recursive_mutex mutex;
+  static constinit ThreadState::Doomed doomed;
+  const std::lock_guard lock(mutex);
+  praxen::Destroy(*this, doomed);
 }
 
 }  // namespace praxen

@@ -45,8 +45,9 @@ namespace praxen {
 /// The base of every object of the model.
 ///
 /// Objects are created with `New` and live as long as a `Ref` or an automation client refers to
-/// them; the count is not synchronised, so an object and all that it contains belong to one thread.
-/// An object is its own automation object: its `Interface` base is its default interface.
+/// them; the count is not synchronised, so an object and all that it contains are used by one
+/// thread at a time. Distinct threads use distinct objects at once. An object is its own automation
+/// object: its `Interface` base is its default interface.
 class Object : public detail::Interface {
  public:
   Object(const Object&) = delete;
@@ -180,5 +181,15 @@ class ReadOnly {
 };
 
 }  // namespace praxen
+
+namespace praxen::detail {
+
+/// Keeps an object alive while a client's code, called in between, may release it. One that nobody
+/// refers to, such as a local variable, lives on without.
+inline Ref<Object> KeepIfShared(const Object& object) noexcept {
+  return object.references() == 0 ? nullptr : const_cast<Object*>(&object);
+}
+
+}  // namespace praxen::detail
 
 #endif  // PRAXEN_DESCRIBE_OBJECT_H_

@@ -15,11 +15,6 @@ size_t Hash(std::u16string_view characters) {
 
 }  // namespace
 
-SharedTexts& SharedTexts::Instance() {
-  static SharedTexts texts;
-  return texts;
-}
-
 Text SharedTexts::Share(std::u16string_view characters) {
   if (characters.size() > kLongest) return Text(characters);
   Text& place = texts_[Hash(characters) % kPlaces];

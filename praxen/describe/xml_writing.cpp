@@ -94,9 +94,9 @@ bool IsOfChosenClass(const Object& element, const Layout& list) {
   return false;
 }
 
-// A client's own element may change the list while it is asked for its kind.
-void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) {
-  const std::vector<Ref<Object>>& elements = *object.elements();
+// A client's own element further down may change the list meanwhile.
+void WriteEach(const std::vector<Ref<Object>>& elements, const Layout& list,
+               XMLStringWriter& writer) {
   const bool mixed = list.elements.front().isKind != nullptr;
   for (size_t i = 0; i < elements.size(); ++i) {
     const Ref<Object> element = elements[i];
@@ -107,6 +107,18 @@ void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) 
       throw InList(error, i, list);
     }
   }
+}
+
+// A list that holds clients' own elements, which may change it while they are asked for their kind,
+// is written as it was before.
+void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) {
+  const std::vector<Ref<Object>>& elements = *object.elements();
+  const auto isClients = [](const Ref<Object>& element) {
+    return element && element->description().isKind;
+  };
+  const bool mixed = list.elements.front().isKind != nullptr;
+  const bool asksClients = mixed && std::ranges::any_of(elements, isClients);
+  asksClients ? WriteEach(std::vector(elements), list, writer) : WriteEach(elements, list, writer);
 }
 
 void WriteText(const Child& child, const Text& value, XMLStringWriter& writer) {
@@ -131,8 +143,9 @@ void WriteChild(Object& object, const Child& child, XMLStringWriter& writer) {
     default:
       break;
   }
-  Object* const held = Held(object, child);
-  if (held == nullptr) {
+  // A client's own element, asked for its kind, may replace what holds it.
+  const Ref<Object> held = Held(object, child);
+  if (!held) {
     if (child.kind == ChildKind::Object) return;
     ThrowMissingObject();
   }
@@ -190,7 +203,9 @@ Text SerializableObject::Serialize() {
     ~RootMark() { object.IsRoot = false; }
     Object& object;
   };
-  XMLStringWriter& writer = SharedWriter();
+  const Ref<Object> kept = KeepIfShared(*this);
+  const DocumentWriter document;
+  XMLStringWriter& writer = *document;
   writer.WriteStartDocument();
   const RootMark mark(*this);
   WriteXML(writer);

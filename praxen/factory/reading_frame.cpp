@@ -8,9 +8,7 @@
 
 #include "praxen/core/error.h"
 #include "praxen/core/module_folder.h"
-#include "praxen/describe/shared_texts.h"
 #include "praxen/factory/embedded_schema.h"
-#include "praxen/factory/library.h"
 
 namespace praxen::detail {
 
@@ -46,10 +44,9 @@ std::function<XmlSchemaSource()> FindSchema() {
   return [file = FindSchemaFile()] { return ReadSchema(file); };
 }
 
-LoadedDocument::LoadedDocument(const Text& XMLStr) : text_(XMLStr), document_(ReaderDocument()) {
-  if (document_.LoadXML(text_)) return;
-  const XmlParseError error = document_.parseError();
-  document_.Clear();
+LoadedDocument::LoadedDocument(const Text& XMLStr) : text_(XMLStr) {
+  if (document_->LoadXML(text_)) return;
+  const XmlParseError& error = document_->parseError();
   throw InvalidXml(error.reason, error.place);
 }
 
@@ -59,14 +56,11 @@ LoadedDocument::LoadedDocument(const Text& XMLStr, std::u16string_view rootName)
   throw WrongRootElement(root().nodeName(), Quoted(rootName)).At(root().place());
 }
 
-LoadedDocument::~LoadedDocument() {
-  SharedTexts::Instance().Clear();
-  document_.Clear();
-}
+LoadedDocument::~LoadedDocument() { texts_.Clear(); }
 
 bool LoadedDocument::IsRoot(std::u16string_view name) const {
   if (root().nodeName() != name) return false;
-  if (document_.rootDeclared()) return true;
+  if (document_->rootDeclared()) return true;
   const XmlParseError error =
       MakeXmlError(u"The element \"" + std::u16string(name) + u"\" is not in the namespace \"" +
                        std::u16string(kNamespace) + u"\".",

@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "praxen/core/text.h"
+#include "praxen/describe/shared_texts.h"
+#include "praxen/factory/library.h"
 #include "praxen/xml/xml_document.h"
 
 namespace praxen::detail {
@@ -28,7 +30,7 @@ class LoadedDocument {
   LoadedDocument& operator=(const LoadedDocument&) = delete;
   ~LoadedDocument();
 
-  XmlNode root() const { return document_.documentElement(); }
+  XmlNode root() const { return document_->documentElement(); }
   /// Whether the root has that name; raises `InvalidXml` when it has, but not in the namespace of
   /// the exchange format.
   bool IsRoot(std::u16string_view name) const;
@@ -36,7 +38,8 @@ class LoadedDocument {
  private:
   // The nodes refer to its characters.
   const Text text_;
-  XmlDocument& document_;
+  SharedTexts& texts_ = SharedTexts::Instance();
+  const ReaderDocument document_;
 };
 
 }  // namespace praxen::detail

@@ -2,6 +2,7 @@
 #include "praxen/server/class_information_posix.h"
 
 #include <map>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -61,7 +62,9 @@ struct ClassTexts {
 
 // Made when it is first asked for.
 const ClassTexts& TextsOf(const ClassDescription& description) {
+  static std::mutex mutex;
   static std::map<const ClassDescription*, ClassTexts> texts;
+  const std::lock_guard lock(mutex);
   const auto known = texts.find(&description);
   if (known != texts.end()) return known->second;
   ClassTexts made{std::string(description.name), {}};

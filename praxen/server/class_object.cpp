@@ -1,6 +1,8 @@
 // Class objects: one is made for each request and keeps the library loaded as objects do.
 #include "praxen/server/class_object.h"
 
+#include <atomic>
+
 #include "praxen/automation/counted.h"
 #include "praxen/automation/guard.h"
 #include "praxen/automation/values.h"
@@ -12,7 +14,7 @@ namespace praxen::detail {
 
 namespace {
 
-constinit int32_t locks = 0;
+constinit std::atomic<int32_t> locks = 0;
 
 class ClassObject final : public Counted<IClassFactory> {
  public:
@@ -42,9 +44,14 @@ class ClassObject final : public Counted<IClassFactory> {
   }
   // A lock that was never set cannot be taken away.
   HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override {
-    if (lock == FALSE && locks == 0) return E_UNEXPECTED;
-    locks += lock == FALSE ? -1 : 1;
-    return S_OK;
+    if (lock != FALSE) {
+      ++locks;
+      return S_OK;
+    }
+    int32_t held = locks;
+    while (held != 0 && !locks.compare_exchange_weak(held, held - 1)) {
+    }
+    return held == 0 ? E_UNEXPECTED : S_OK;
   }
 
  private:

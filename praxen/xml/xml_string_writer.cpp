@@ -1,6 +1,7 @@
 // The markup that the writer appends, and its escaping.
 #include "praxen/xml/xml_string_writer.h"
 
+#include <atomic>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -8,6 +9,7 @@
 
 #include "praxen/core/counters.h"
 #include "praxen/core/error.h"
+#include "praxen/core/thread_state.h"
 #include "praxen/xml/xml_escape.h"
 #include "praxen/xml/xml_limits.h"
 
@@ -15,7 +17,7 @@ namespace praxen::detail {
 
 namespace {
 
-constinit bool include_line_breaks = true;
+constinit std::atomic<bool> include_line_breaks = true;
 
 constexpr int32_t kGrowthStep = 32768;
 constexpr int32_t kFirstCapacity = 65536;
@@ -143,13 +145,15 @@ char16_t* EndTag(std::u16string_view name, char16_t* to) {
 
 }  // namespace
 
-XMLStringWriter::XMLStringWriter() {
+XMLStringWriter::XMLStringWriter(Counting counting) : counting_(counting) {
   buffer_.BufferBump(kGrowthStep);
   buffer_.Capacity(kFirstCapacity);
-  CountObject();
+  if (counting == Counting::Yes) CountObject();
 }
 
-XMLStringWriter::~XMLStringWriter() { UncountObject(); }
+XMLStringWriter::~XMLStringWriter() {
+  if (counting_ == Counting::Yes) UncountObject();
+}
 
 void XMLStringWriter::WriteStartDocument() {
   buffer_.Reset();
@@ -233,13 +237,28 @@ void XMLStringWriter::WriteEscaped(std::u16string_view value) {
   }
 }
 
-XMLStringWriter& SharedWriter() {
-  static XMLStringWriter writer;
-  return writer;
+struct DocumentWriter::OfThread final : KeptByThread {
+  XMLStringWriter writer{XMLStringWriter::Counting::No};
+  bool isWriting = false;
+};
+
+DocumentWriter::DocumentWriter()
+    : own_(ThreadState::Current().Keep<OfThread>()), writer_(&own_.writer) {
+  if (own_.isWriting) {
+    further_ = std::make_unique<XMLStringWriter>(XMLStringWriter::Counting::No);
+    writer_ = further_.get();
+  }
+  own_.isWriting = true;
 }
 
-bool IncludeCRLFInXML() noexcept { return include_line_breaks; }
+DocumentWriter::~DocumentWriter() {
+  if (further_ == nullptr) own_.isWriting = false;
+}
 
-void SetIncludeCRLFInXML(bool include) noexcept { include_line_breaks = include; }
+bool IncludeCRLFInXML() noexcept { return include_line_breaks.load(std::memory_order_relaxed); }
+
+void SetIncludeCRLFInXML(bool include) noexcept {
+  include_line_breaks.store(include, std::memory_order_relaxed);
+}
 
 }  // namespace praxen::detail

@@ -3,6 +3,7 @@
 #define PRAXEN_XML_XML_STRING_WRITER_H_
 
 #include <cstdint>
+#include <memory>
 #include <string_view>
 
 #include "praxen/core/string_builder.h"
@@ -14,10 +15,13 @@ namespace praxen::detail {
 /// nesting order.
 ///
 /// Attribute values stand between apostrophes. Line breaks are CR LF, and are left out while
-/// `IncludeCRLFInXML` is false. The writer counts as one live object.
+/// `IncludeCRLFInXML` is false. A writer counts as one live object, unless it is one of those that
+/// together stand for the shared writer. It is used by one thread at a time.
 class XMLStringWriter {
  public:
-  XMLStringWriter();
+  enum class Counting : bool { No, Yes };
+
+  explicit XMLStringWriter(Counting counting = Counting::Yes);
   ~XMLStringWriter();
   XMLStringWriter(const XMLStringWriter&) = delete;
   XMLStringWriter& operator=(const XMLStringWriter&) = delete;
@@ -48,16 +52,33 @@ class XMLStringWriter {
   template <bool Attribute>
   void WriteEscaped(std::u16string_view value);
 
+  const Counting counting_;
   CStringBuilder buffer_;
   bool start_tag_open_ = false;
   bool element_empty_ = false;
   uint32_t depth_ = 0;
 };
 
-/// The writer through which every `Serialize` writes.
-XMLStringWriter& SharedWriter();
+/// The writer of one document: the thread's own, which keeps its buffer for the next one, and for a
+/// document that is written while the thread writes another, one that goes with the document.
+class DocumentWriter {
+ public:
+  DocumentWriter();
+  DocumentWriter(const DocumentWriter&) = delete;
+  DocumentWriter& operator=(const DocumentWriter&) = delete;
+  ~DocumentWriter();
 
-/// Whether documents are written with CR LF line breaks; true after start-up.
+  XMLStringWriter& operator*() const noexcept { return *writer_; }
+
+ private:
+  struct OfThread;
+
+  OfThread& own_;
+  std::unique_ptr<XMLStringWriter> further_;
+  XMLStringWriter* writer_;
+};
+
+/// Whether documents are written with CR LF line breaks, on whatever thread; true after start-up.
 bool IncludeCRLFInXML() noexcept;
 void SetIncludeCRLFInXML(bool include) noexcept;
 

@@ -4,6 +4,8 @@
 #include <stdlib.h>
 
 #include <filesystem>
+#include <future>
+#include <thread>
 
 #include "praxen/automation/class_registry_posix.h"
 #include "praxen/automation/create_object.h"
@@ -63,13 +65,13 @@ TEST_F(Server, RegistrationThatCannotBeKeptIsAnError) {
 
 #ifndef PRAXEN_ONE_COPY_ONLY
 
-// A second copy of the library, with libraries of its own, as a client has it that is not linked
-// with it. The address checker knows one copy of each only.
+// A second copy of the library that binds to itself, as a client has it that is not linked with it.
+// The address checker knows one copy of each symbol only.
 TEST_F(Server, TheLibraryCanBeUnloaded) {
-  void* const copy = ::dlmopen(LM_ID_NEWLM, PRAXEN_LIBRARY_FILE, RTLD_NOW);
+  const fs::path file = folder_ / "copy.so";
+  fs::copy_file(PRAXEN_LIBRARY_FILE, file);
+  void* const copy = ::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_DEEPBIND);
   ASSERT_NE(copy, nullptr) << ::dlerror();
-  Lmid_t space = 0;
-  ASSERT_EQ(::dlinfo(copy, RTLD_DI_LMID, &space), 0);
   const auto canUnload = reinterpret_cast<HRESULT (*)()>(::dlsym(copy, "DllCanUnloadNow"));
   const auto getClassObject =
       reinterpret_cast<HRESULT (*)(REFCLSID, REFIID, void**)>(::dlsym(copy, "DllGetClassObject"));
@@ -93,10 +95,26 @@ TEST_F(Server, TheLibraryCanBeUnloaded) {
   EXPECT_EQ(Put(Create("Program"), u"Variables", Variant(foreign.Get())).result,
             DISP_E_TYPEMISMATCH);
   foreign = {};
+  // Threads that end before, and one that ends when there is nothing left of the library.
+  std::promise<void> used, unloaded;
+  const auto use = [&] {
+    ComPointer<IUnknown> object;
+    factory->CreateInstance(nullptr, IID_IUnknown, reinterpret_cast<void**>(object.Receive()));
+    return static_cast<bool>(object);
+  };
+  for (int i = 0; i < 3; ++i) std::thread([&] { EXPECT_TRUE(use()); }).join();
+  std::thread survivor([&] {
+    EXPECT_TRUE(use());
+    used.set_value();
+    unloaded.get_future().wait();
+  });
+  used.get_future().wait();
   factory = {};
   EXPECT_EQ(canUnload(), S_OK);
   EXPECT_EQ(::dlclose(copy), 0);
-  EXPECT_EQ(::dlmopen(space, PRAXEN_LIBRARY_FILE, RTLD_NOW | RTLD_NOLOAD), nullptr);
+  EXPECT_EQ(::dlopen(file.c_str(), RTLD_NOW | RTLD_NOLOAD), nullptr);
+  unloaded.set_value();
+  survivor.join();
 }
 
 #endif
