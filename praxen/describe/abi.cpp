@@ -6,7 +6,7 @@
 #include "praxen/core/error.h"
 #include "praxen/describe/description.h"
 #include "praxen/describe/foreign_object.h"
-#include "praxen/describe/identifiers.h"
+#include "praxen/describe/own_object.h"
 #include "praxen/describe/slots.h"
 
 namespace praxen::detail::abi {
@@ -105,13 +105,7 @@ AnyValue ToAny(const Variant& variant) {
 
 Ref<Object> ToObject(Interface* object, Ref<Object> (*adapt)(Interface*)) {
   if (object == nullptr) return {};
-  auto* const unknown = reinterpret_cast<IUnknown*>(object);
-  void* own = nullptr;
-  if (SUCCEEDED(unknown->QueryInterface(OwnObjectId(), &own)) && own != nullptr) {
-    const Ref<Object> found = static_cast<Object*>(static_cast<Interface*>(own));
-    found->Release();
-    return found;
-  }
+  if (Ref<Object> own = OwnObjectBehind(object)) return own;
   Ref<Object> adapted = adapt == nullptr ? Ref<Object>() : adapt(object);
   if (!adapted) ThrowTypeMismatch();
   return adapted;

@@ -9,6 +9,7 @@
 #include "praxen/core/ascii.h"
 #include "praxen/core/error.h"
 #include "praxen/describe/identifiers.h"
+#include "praxen/describe/own_object.h"
 #include "praxen/describe/tear_off.h"
 
 namespace praxen::detail::dispatch {
@@ -100,10 +101,11 @@ void Put(Object& object, const Member& member, WORD flags, const DISPPARAMS& par
 }
 
 // Whether there are arguments for the default member of the object that the member returns, as in
-// `program.Variables(1)`.
+// `program.Variables(1)`. A method does its work before it has a result, too early to find that the
+// arguments do not suit the result.
 bool IndexesResult(const Member& member, WORD flags, const DISPPARAMS& parameters) {
   const UINT assigned = (flags & kGetting) != 0 ? 0 : 1;
-  return parameters.cArgs > assigned && member.parameters.empty() &&
+  return parameters.cArgs > assigned && !member.isMethod && member.parameters.empty() &&
          member.type.kind == ValueKind::Object;
 }
 
@@ -167,7 +169,7 @@ HRESULT Fill(EXCEPINFO* exception, const abi::Failure& failure) {
 // Null for an interface that the object itself does not have.
 Interface* OwnInterface(Object& object, REFIID iid) {
   const ClassDescription& description = object.description();
-  if (iid == IID_IUnknown || iid == IID_IDispatch || &iid == &OwnObjectId()) return &object;
+  if (iid == IID_IUnknown || iid == IID_IDispatch || ConfirmOwnObject(object, iid)) return &object;
   if (!description.isKind && iid == InterfaceId(description)) return &object;
   Interface* const kind = object.kindInterface();
   if (kind == nullptr) return nullptr;

@@ -56,6 +56,8 @@ ForeignObject::Slots ForeignObject::SlotsOfText() const {
 template <class... Arguments>
 void ForeignObject::Call(size_t slot, Arguments... arguments) const {
   using Function = HRESULT(STDMETHODCALLTYPE*)(Interface*, Arguments...);
+  // The answer may be the end of this adapter.
+  const ComPointer<IUnknown> kept = client_;
   Interface* const client = kindOfClient();
   Require(reinterpret_cast<Function>(const_cast<void*>(client->table[slot]))(client, arguments...));
 }

@@ -5,7 +5,6 @@ namespace praxen::describe {
 
 namespace {
 
-constexpr GUID kOwnObjectId = ToGuid(NamedIdentifier("interface own object"));
 constexpr GUID kTypeLibraryId = ToGuid(NamedIdentifier("library PraxenHelper"));
 
 }  // namespace
@@ -23,7 +22,5 @@ GUID TypeLibraryId() { return kTypeLibraryId; }
 std::string InterfaceName(const ClassDescription& description) {
   return "_" + std::string(description.name);
 }
-
-const GUID& OwnObjectId() noexcept { return kOwnObjectId; }
 
 }  // namespace praxen::describe

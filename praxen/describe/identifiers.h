@@ -21,10 +21,6 @@ GUID TypeLibraryId();
 /// The name of a class's default interface, such as "_Variable".
 std::string InterfaceName(const ClassDescription& description);
 
-/// The interface that only objects of this library answer; through it an object is recognised. It
-/// counts by its address, which another copy of the library in the same process does not share.
-const GUID& OwnObjectId() noexcept;
-
 }  // namespace praxen::describe
 
 #endif  // PRAXEN_DESCRIBE_IDENTIFIERS_H_

@@ -111,8 +111,7 @@ class Collection : public describe::Described<Class, Base> {
   }
   /// The first element of that name, compared exactly; an empty reference when there is none.
   Ref<Element> Find(const Text& key) const requires detail::HasKey<Element> {
-    const int32_t position = FindNr(key);
-    return position < 0 ? Ref<Element>() : Item(position);
+    return FirstOf([&](const Element& element) { return detail::KeyOf(element) == key; }).element;
   }
   /// The position of the first element of that name; -1 when there is none.
   int32_t FindNr(const Text& key) const requires detail::HasKey<Element> {
@@ -171,16 +170,28 @@ class Collection : public describe::Described<Class, Base> {
   }
 
  protected:
-  /// The position of the first element that matches; -1 when there is none. An empty reference
-  /// matches nothing.
+  /// The position of the first element that matches; -1 when there is none.
   template <class Matches>
   int32_t PositionOf(Matches matches) const {
+    return FirstOf(matches).position;
+  }
+
+  struct Match {
+    Ref<Element> element;
+    int32_t position = -1;
+  };
+
+  /// The first element that matches; an empty reference matches nothing. A client's own element may
+  /// change the list, or let go of it, while it is asked.
+  template <class Matches>
+  Match FirstOf(Matches matches) const {
+    const Ref<Object> kept = detail::KeepIfShared(*this);
     for (size_t i = 0; i < elements_.size(); ++i) {
-      const Object* const element = elements_[i].get();
-      if (element == nullptr) continue;
-      if (matches(static_cast<const Element&>(*element))) return static_cast<int32_t>(i + 1);
+      const Ref<Object> element = elements_[i];
+      if (!element || !matches(static_cast<const Element&>(*element))) continue;
+      return {static_cast<Element*>(element.get()), static_cast<int32_t>(i + 1)};
     }
-    return -1;
+    return {};
   }
 
   static describe::Member add() {

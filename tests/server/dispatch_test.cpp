@@ -4,6 +4,7 @@
 #include <string>
 
 #include "praxen/core/text.h"
+#include "praxen/factory/classes.h"
 #include "tests/server/client.h"
 
 namespace praxen::detail::client {
@@ -158,6 +159,24 @@ TEST_F(LateBound, SurplusArgumentsGoToTheDefaultMember) {
                    {{DISPID_PROPERTYPUT, Variant(u"x")}})
                 .result,
             DISP_E_MEMBERNOTFOUND);
+}
+
+// A method would have done its work by then.
+TEST(LateBoundMethods, HaveNoPlaceForSurplusArguments) {
+  int methods = 0;
+  for (const ClassDescription& description : AllClasses()) {
+    const Handle object = Create(description.name);
+    if (!object) continue;
+    for (const Member& member : description.members) {
+      if (!member.isMethod) continue;
+      SCOPED_TRACE(testing::Message() << description.name << "." << member.name);
+      const Values surplus(member.parameters.size() + 1, Variant(1));
+      EXPECT_EQ(Invoke(object, member.id, kGet, surplus).result, DISP_E_BADPARAMCOUNT);
+      ++methods;
+    }
+    EXPECT_TRUE(description.FindMember(u"Count") == nullptr || Get(object, u"Count").lVal == 0);
+  }
+  EXPECT_GT(methods, 300);
 }
 
 TEST_F(LateBound, ObjectsAreAssignedByValueOrReference) {

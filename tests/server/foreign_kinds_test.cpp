@@ -1,8 +1,12 @@
 // Clients' own implementations of the kinds, in the lists of the model.
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 #include "praxen/describe/identifiers.h"
 #include "praxen/factory/classes.h"
+#include "praxen/praxen.h"
 #include "tests/server/client.h"
 
 namespace praxen::detail::client {
@@ -14,7 +18,8 @@ class ForeignObject : public IDispatch {
   explicit ForeignObject(std::u16string_view kind) : kind_(InterfaceId(*FindClass(kind))) {}
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
     *out = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IDispatch && iid != kind_) return E_NOINTERFACE;
+    const bool isKnown = iid == IID_IUnknown || iid == IID_IDispatch || iid == kind_;
+    if (!isKnown && !answersAll) return E_NOINTERFACE;
     *out = this;
     AddRef();
     return S_OK;
@@ -32,6 +37,8 @@ class ForeignObject : public IDispatch {
   }
 
   ULONG references = 1;
+  /// Whether it answers whatever interface it is asked for, with itself.
+  bool answersAll = false;
 
  private:
   const GUID kind_;
@@ -48,6 +55,7 @@ class ForeignBlock : public ForeignObject {
 
   virtual HRESULT STDMETHODCALLTYPE get_Name(BSTR* out) {
     if (FAILED(failure)) return failure;
+    if (whenAsked) std::exchange(whenAsked, nullptr)();
     *out = BStr(name).Detach();
     return S_OK;
   }
@@ -56,6 +64,7 @@ class ForeignBlock : public ForeignObject {
     return S_OK;
   }
   virtual HRESULT STDMETHODCALLTYPE get_IsSTCodeBlock(VARIANT_BOOL* out) {
+    if (whenAsked) std::exchange(whenAsked, nullptr)();
     return Answer(isStructuredText, out);
   }
   virtual HRESULT STDMETHODCALLTYPE get_IsSFCCodeBlock(VARIANT_BOOL* out) {
@@ -77,6 +86,8 @@ class ForeignBlock : public ForeignObject {
   std::u16string name = u"Foreign";
   bool isStructuredText = false;
   HRESULT failure = S_OK;
+  /// Called once, before the next answer.
+  std::function<void()> whenAsked;
 };
 
 class ForeignModule : public ForeignObject {
@@ -162,6 +173,65 @@ TEST_F(ForeignKinds, OnlyTheKindThatIsNeededWillDo) {
   EXPECT_EQ(Call(modules, u"Add", {Variant(&module)}).result, S_OK);
   EXPECT_EQ(Get(modules, u"FindNr", {Variant(u"Module")}).lVal, 1);
   EXPECT_EQ(Call(modules, u"Serialize").code, DISP_E_TYPEMISMATCH);
+}
+
+// What answers every question with itself would pass for an object of the library.
+TEST_F(ForeignKinds, WhatClaimsEveryInterfaceIsRefused) {
+  block_.answersAll = true;
+  const Variant liar(&block_);
+  const ULONG references = block_.references;
+  for (const auto& [className, member] :
+       {std::pair("Variables", u"Add"), std::pair("CodeBlocks", u"Add"),
+        std::pair("CodeBlocks", u"AddSTCodeBlock"), std::pair("ControlModules", u"Add"),
+        std::pair("VAProtocols", u"Add"), std::pair("MessageBucket", u"Add")}) {
+    const Outcome outcome = Call(Create(className), member, {liar});
+    EXPECT_EQ(outcome.result, DISP_E_TYPEMISMATCH) << className;
+    EXPECT_EQ(outcome.badArgument, 0u) << className;
+  }
+  EXPECT_EQ(Put(program_, u"Variables", liar).result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(Put(program_, u"CodeBlocks", liar).result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(block_.references, references);
+}
+
+TEST_F(ForeignKinds, TheClientMayDoWhatItLikesWhileItIsAsked) {
+  const auto longList = [] {
+    const auto list = New<ApplicationVariables>();
+    for (int i = 0; i < 1'000; ++i) list->GlobalVariables->Add1(u"Variable", u"real");
+    return list->Serialize();
+  };
+  const Text other = longList();
+  Ref<Program> program;
+  Text expected;
+  // A program that only the variable refers to, and so on down to what stands for the block.
+  const auto renew = [&] {
+    program = ObjectFactory::NewProgram(u"P", u"");
+    program->CodeBlocks->AddSTCodeBlock1(u"Last");
+    expected = program->Serialize();
+    Object& list = *program->CodeBlocks;
+    const Handle handle(reinterpret_cast<IDispatch*>(static_cast<Interface*>(&list)));
+    Call(handle, u"AddBefore", {Variant(&block_), Variant(1)});
+  };
+  const std::function<void()> deeds[] = {
+      [&] { program->CodeBlocks = New<CodeBlocks>(); },
+      [&] { program->CodeBlocks->Remove(1); },
+      [&] { program = nullptr; },
+      [&] { EXPECT_EQ(program->Serialize(), expected); },
+      [&] { EXPECT_EQ(longList(), other); },
+      [&] { EXPECT_THROW(New<Program>()->Serialize(), Error); },
+      [&] { EXPECT_EQ(ReadDocument(expected)->description().name, "Program"); },
+  };
+  for (const auto& deed : deeds) {
+    SCOPED_TRACE(&deed - deeds);
+    renew();
+    block_.whenAsked = deed;
+    EXPECT_EQ(program->Serialize(), expected);
+    EXPECT_FALSE(block_.whenAsked);
+    renew();
+    block_.whenAsked = deed;
+    EXPECT_TRUE(program->CodeBlocks->Find(u"Foreign"));
+  }
+  program = nullptr;
+  EXPECT_EQ(block_.references, 1u);
 }
 
 }  // namespace
