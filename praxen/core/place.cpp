@@ -24,17 +24,17 @@ std::u16string PlaceText(Place place) {
   return u"line " + DecimalText(place.line) + u", column " + DecimalText(place.column);
 }
 
-Place PlaceAt(std::u16string_view text, size_t offset) {
-  Place place{1, 1};
-  offset = std::min(offset, text.size());
-  for (size_t i = 0; i < offset; ++i) {
-    if (EndsLine(text, i)) {
-      place = {place.line + 1, 1};
+Place PlaceAt(std::u16string_view text, size_t offset) { return PlaceCounter(text).At(offset); }
+
+Place PlaceCounter::At(size_t offset) {
+  for (const size_t end = std::min(offset, text_.size()); offset_ < end; ++offset_) {
+    if (EndsLine(text_, offset_)) {
+      place_ = {place_.line + 1, 1};
     } else {
-      ++place.column;
+      ++place_.column;
     }
   }
-  return place;
+  return place_;
 }
 
 size_t OffsetAt(std::u16string_view text, Place place) {

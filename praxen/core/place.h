@@ -27,6 +27,20 @@ std::u16string PlaceText(Place place);
 /// The place of the character at `offset`.
 Place PlaceAt(std::u16string_view text, size_t offset);
 
+/// The places of characters that are asked for in their order, in one walk over the text.
+class PlaceCounter {
+ public:
+  explicit PlaceCounter(std::u16string_view text) : text_(text) {}
+
+  /// The place of the character at `offset`, which is not before the one asked for last.
+  Place At(size_t offset);
+
+ private:
+  const std::u16string_view text_;
+  size_t offset_ = 0;
+  Place place_{1, 1};
+};
+
 /// The offset of the character at `place`, at most the length of the text.
 size_t OffsetAt(std::u16string_view text, Place place);
 

@@ -4,6 +4,7 @@
 #include "praxen/core/error.h"
 #include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
+#include "praxen/describe/loss_recording.h"
 #include "praxen/describe/reflection.h"
 #include "praxen/describe/shared_texts.h"
 
@@ -61,13 +62,11 @@ void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& no
   }
 }
 
-// The text of an element's first child, which is all that an element of text holds.
-std::u16string_view FirstText(const XmlNode& node) { return node.firstChild().nodeValue(); }
-
 // The text of an element as `child` lays it out; the value stays as it is where there is no text.
 void ReadText(Text& value, const Child& child, const XmlNode& node) {
   const XmlNode holder = child.inner.empty() ? node : node.firstChild();
   if (holder.firstChild()) value = FirstText(holder);
+  if (node.recorder() != nullptr) RecordText(value, child, node);
 }
 
 void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNode& cursor) {
@@ -83,6 +82,7 @@ void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNod
     case ChildKind::Unnamed:
       if (!cursor) return;
       Held(object, child)->ReadXML(cursor);
+      if (cursor.recorder() != nullptr) cursor.recorder()->ReadAs(cursor, child.name);
       break;
     case ChildKind::Text:
       if (child.strict) ReadTextElement(cursor, child.name);
@@ -103,11 +103,19 @@ void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNod
 std::u16string_view RequiredAttribute(const XmlNode& node, std::u16string_view name) {
   const XmlAttribute* const attribute = node.attribute(name);
   if (attribute == nullptr) throw MissingAttribute(node, name);
+  if (node.recorder() != nullptr) node.recorder()->Take(*attribute);
   return attribute->value();
 }
 
 bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name) {
-  return TextToBoolean(RequiredAttribute(node, name));
+  const bool isTrue = TextToBoolean(RequiredAttribute(node, name));
+  if (node.recorder() != nullptr) RecordBoolean(isTrue, node, *node.attribute(name));
+  return isTrue;
+}
+
+std::u16string_view FirstText(const XmlNode& node) {
+  if (node.recorder() != nullptr) node.recorder()->TakeText(node);
+  return node.firstChild().nodeValue();
 }
 
 std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name) {
@@ -133,6 +141,7 @@ void ReadElement(Object& object, const Layout& layout, const XmlNode& node) {
   XmlNode cursor = node.firstChild();
   for (const Child& child : layout.children) ReadChild(object, child, node, cursor);
   if (!layout.elements.empty()) ReadItems(object, layout, cursor);
+  if (node.recorder() != nullptr) RecordElement(object, layout, node);
 }
 
 }  // namespace praxen::describe

@@ -24,6 +24,9 @@ std::u16string_view RequiredAttribute(const XmlNode& node, std::u16string_view n
 /// Whether the attribute is exactly "1" or "true".
 bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name);
 
+/// The text of an element's first child, which is all that an element of text holds.
+std::u16string_view FirstText(const XmlNode& node);
+
 /// The text of an element that holds only text, empty without a node; raises `WrongElementName`
 /// when the node has another name.
 std::u16string_view ReadTextElement(const XmlNode& node, std::u16string_view name);

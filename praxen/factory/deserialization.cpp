@@ -9,10 +9,11 @@
 
 namespace praxen::detail {
 
-Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr) {
+Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr,
+                              Losses* losses) {
   const LoadedDocument document(XMLStr, description.layout().element);
   Ref<Object> object = description.create();
-  object->ReadXML(document.root());
+  document.ReadRoot(*object, losses);
   return object;
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "praxen/core/losses.h"
 #include "praxen/describe/description.h"
 #include "praxen/describe/object.h"
 #include "praxen/model/pou/code_block.h"
@@ -12,7 +13,9 @@
 namespace praxen::detail {
 
 /// Creates an object of a described class and reads it from a document whose root is its element.
-Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr);
+/// What that leaves out replaces `losses` when these are given.
+Ref<Object> DeserializeObject(const ClassDescription& description, const Text& XMLStr,
+                              Losses* losses = nullptr);
 
 /// What the reading operations have in common: the text is passed by reference.
 struct Reading {

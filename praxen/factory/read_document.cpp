@@ -74,13 +74,13 @@ namespace praxen {
 
 using namespace detail;
 
-Ref<Object> ReadDocument(const Text& text) {
+Ref<Object> ReadDocument(const Text& text, Losses* losses) {
   const LoadedDocument document(text);
   const ClassDescription& description = ClassOf(document.root());
   // Raises an error when the root has the right name in a wrong namespace.
   document.IsRoot(description.layout().element);
   Ref<Object> object = description.create();
-  object->ReadXML(document.root());
+  document.ReadRoot(*object, losses);
   return object;
 }
 

@@ -4,7 +4,9 @@
 
 #include <vector>
 
+#include "praxen/core/losses.h"
 #include "praxen/describe/object.h"
+#include "praxen/factory/deserialization.h"
 
 namespace praxen {
 
@@ -14,7 +16,18 @@ namespace praxen {
 /// and children, and for the first of them in the factory when they know the same. Raises
 /// `InvalidXml` for a text that does not parse or validate, `WrongRootElement`, which names the
 /// element, for the document of no class, and what reading its contents raises.
-Ref<Object> ReadDocument(const Text& text);
+///
+/// Reading passes over what stands out of place and takes what it does not know for something else.
+/// What it so leaves out replaces `losses` when these are given; an error leaves them alone.
+Ref<Object> ReadDocument(const Text& text, Losses* losses = nullptr);
+
+/// The same for a document whose class is known, which `ObjectFactory` reads without losses; raises
+/// `WrongRootElement` for the document of another class.
+template <class Class>
+Ref<Class> ReadDocument(const Text& text, Losses* losses = nullptr) {
+  const Ref<Object> object = detail::DeserializeObject(describe::Describe<Class>(), text, losses);
+  return static_cast<Class*>(object.get());
+}
 
 }  // namespace praxen
 

@@ -9,6 +9,7 @@
 #include "praxen/core/error.h"
 #include "praxen/core/module_folder.h"
 #include "praxen/factory/embedded_schema.h"
+#include "praxen/xml/loss_recorder.h"
 
 namespace praxen::detail {
 
@@ -57,6 +58,13 @@ LoadedDocument::LoadedDocument(const Text& XMLStr, std::u16string_view rootName)
 }
 
 LoadedDocument::~LoadedDocument() { texts_.Clear(); }
+
+void LoadedDocument::ReadRoot(Object& object, Losses* losses) const {
+  if (losses == nullptr) return object.ReadXML(root());
+  LossRecorder recorder(*document_);
+  object.ReadXML(root());
+  *losses = recorder.Find();
+}
 
 bool LoadedDocument::IsRoot(std::u16string_view name) const {
   if (root().nodeName() != name) return false;

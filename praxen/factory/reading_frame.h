@@ -6,7 +6,9 @@
 #include <functional>
 #include <string_view>
 
+#include "praxen/core/losses.h"
 #include "praxen/core/text.h"
+#include "praxen/describe/object.h"
 #include "praxen/describe/shared_texts.h"
 #include "praxen/factory/library.h"
 #include "praxen/xml/xml_document.h"
@@ -34,6 +36,9 @@ class LoadedDocument {
   /// Whether the root has that name; raises `InvalidXml` when it has, but not in the namespace of
   /// the exchange format.
   bool IsRoot(std::u16string_view name) const;
+  /// Fills a fresh object from the root; what that leaves out replaces `losses` when these are
+  /// given.
+  void ReadRoot(Object& object, Losses* losses) const;
 
  private:
   // The nodes refer to its characters.

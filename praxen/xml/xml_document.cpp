@@ -31,6 +31,11 @@ std::u16string_view XmlNode::nodeName() const {
   return tree_ == nullptr ? std::u16string_view() : std::u16string_view(*name());
 }
 
+XmlNodeKind XmlNode::kind() const {
+  if (tree_ == nullptr) return XmlNodeKind::Text;
+  return static_cast<XmlNodeKind>(tree_->record(node_).kind);
+}
+
 std::u16string_view XmlNode::nodeValue() const {
   return tree_ == nullptr ? std::u16string_view() : tree_->text(node_);
 }

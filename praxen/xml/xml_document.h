@@ -28,6 +28,8 @@ class XmlNode {
       : tree_(node == XmlTree::kNone ? nullptr : tree), node_(node) {}
 
   explicit operator bool() const { return tree_ != nullptr; }
+  /// Nodes are numbered from 0 in document order.
+  uint32_t number() const { return node_; }
   friend bool operator==(const XmlNode& a, const XmlNode& b) {
     return a.tree_ == b.tree_ && (a.tree_ == nullptr || a.node_ == b.node_);
   }
@@ -36,6 +38,8 @@ class XmlNode {
   /// for an absent node.
   XmlName name() const { return tree_ == nullptr ? nullptr : tree_->record(node_).name; }
   std::u16string_view nodeName() const;
+  /// An absent node is taken for a text.
+  XmlNodeKind kind() const;
   /// The content of a text, a comment or a processing instruction; empty for an element.
   std::u16string_view nodeValue() const;
   XmlNode firstChild() const;
@@ -55,6 +59,12 @@ class XmlNode {
   std::u16string Markup() const;
   /// Where the node begins in the source. Every call walks the source up to there.
   Place place() const;
+  /// The same as an offset, and that of an attribute of the node, which has to be there.
+  size_t offset() const { return tree_->offset(node_); }
+  size_t offsetOf(const XmlAttribute& attribute) const { return tree_->offset(node_, attribute); }
+
+  /// Who is told what is read of the document; null while nobody is.
+  LossRecorder* recorder() const { return tree_ == nullptr ? nullptr : tree_->recorder(); }
 
  private:
   const XmlTree* tree_ = nullptr;
@@ -92,6 +102,13 @@ class XmlDocument {
   bool rootDeclared() const { return rootDeclared_; }
   /// The root element; absent when nothing is loaded.
   XmlNode documentElement() const;
+  /// The number of nodes, and the node with a number below it.
+  uint32_t size() const { return tree_ == nullptr ? 0 : tree_->size(); }
+  XmlNode node(uint32_t number) const { return {tree_.get(), number}; }
+  /// The text that is loaded, without a byte-order mark.
+  std::u16string_view source() const { return tree_->source(); }
+  /// Lets what is read of the loaded document be told to a recorder, or to nobody.
+  void Record(LossRecorder* recorder) { tree_->Record(recorder); }
   /// Gives up the nodes and the memory they take.
   void Clear();
 

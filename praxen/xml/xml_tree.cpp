@@ -31,6 +31,7 @@ void XmlTree::Clear(std::u16string_view source) {
   text_.clear();
   if (text_.capacity() > kKeptCharacters) text_.shrink_to_fit();
   extents_ = {};
+  recorder_ = nullptr;
 }
 
 std::u16string_view XmlTree::Copy(std::u16string_view characters) {

@@ -90,6 +90,8 @@ struct XmlRecord {
   uint32_t hasChildren : 1;
 };
 
+class LossRecorder;
+
 /// The nodes of one document. They are added in document order and then only read.
 class XmlTree {
  public:
@@ -130,6 +132,16 @@ class XmlTree {
   std::u16string Markup(uint32_t node) const;
   /// The place of the node's first character.
   Place place(uint32_t node) const;
+  /// Where the node begins in the source.
+  size_t offset(uint32_t node) const { return extents()[node].begin; }
+  /// Where the name of an attribute that the text gives begins; where the element begins for one
+  /// that it does not give.
+  size_t offset(uint32_t element, const XmlAttribute& attribute) const;
+  std::u16string_view source() const { return source_; }
+
+  /// Who is told what is read of the nodes; null while nobody is.
+  LossRecorder* recorder() const { return recorder_; }
+  void Record(LossRecorder* recorder) { recorder_ = recorder; }
 
  private:
   static constexpr uint32_t kBlockBits = 12;
@@ -166,6 +178,7 @@ class XmlTree {
   std::u16string text_;
   /// Found when first asked for, since most documents are read without.
   mutable std::vector<Extent> extents_;
+  LossRecorder* recorder_ = nullptr;
 };
 
 }  // namespace praxen::detail

@@ -90,6 +90,17 @@ std::u16string XmlTree::Markup(uint32_t node) const {
 
 Place XmlTree::place(uint32_t node) const { return PlaceAt(source_, extents()[node].begin); }
 
+size_t XmlTree::offset(uint32_t element, const XmlAttribute& attribute) const {
+  const Extent& extent = extents()[element];
+  const std::u16string_view tag = source_.substr(extent.begin, extent.end - extent.begin);
+  XmlRawAttribute given = NextXmlAttribute(tag, 1 + record(element).name->size());
+  while (given.offset != std::u16string_view::npos && given.name != *attribute.name) {
+    const auto end = static_cast<size_t>(given.value.data() - tag.data()) + given.value.size() + 1;
+    given = NextXmlAttribute(tag, end);
+  }
+  return extent.begin + (given.offset == std::u16string_view::npos ? 0 : given.offset);
+}
+
 // Nodes are numbered in document order, so that one walk over the source meets them in turn. The
 // dropped blanks are told from text nodes by whose child the next node is.
 const std::vector<XmlTree::Extent>& XmlTree::extents() const {

@@ -6,6 +6,7 @@
 #include "praxen/core/error.h"
 #include "praxen/core/text_functions.h"
 #include "praxen/describe/xml_reading.h"
+#include "praxen/xml/loss_recorder.h"
 #include "praxen/xml/xml_string_writer.h"
 
 namespace praxen::detail {
@@ -21,7 +22,7 @@ Error MissingContent(const XmlNode& node) {
 }
 
 std::u16string_view RequiredText(const XmlNode& node) {
-  const std::u16string_view text = node.firstChild().nodeValue();
+  const std::u16string_view text = FirstText(node);
   if (text.empty()) throw MissingContent(node);
   return text;
 }
@@ -157,6 +158,7 @@ void intProjectConstants::ReadLevel(XmlNode node, ProjectConstants& list, const 
     name_characters_ += name.size();
     if (name_characters_ > kMostNameCharacters) throw Overflow().At(node.place());
     const XmlNode child = node.firstChild();
+    if (node.recorder() != nullptr) RecordEntry(node, name);
     if (child.nodeName() == kGroup) {
       ReadLevel(child.firstChild(), list, name);
     } else {
@@ -165,12 +167,40 @@ void intProjectConstants::ReadLevel(XmlNode node, ProjectConstants& list, const 
   }
 }
 
+// A dot in a name divides levels as groups do, and what is then one constant is written once.
+void intProjectConstants::RecordEntry(const XmlNode& node, const Text& name) {
+  LossRecorder& recorder = *node.recorder();
+  recorder.Take(node);
+  recorder.ReadAs(node, kEntry);
+  const XmlAttribute& given = *node.attribute(u"Name");
+  if (given.value().empty() || given.value().find(u'.') != std::u16string_view::npos) {
+    recorder.Note(LossKind::Changed, node, u"'" + name + u"' was read as a name with its groups",
+                  &given);
+  }
+  const XmlNode child = node.firstChild();
+  if (child.nodeName() == kGroup) {
+    recorder.Take(child);
+    if (child.firstChild()) return;
+    return recorder.Note(LossKind::NotRead, child, u"a group without constants was not read");
+  }
+  if (recorded_.ConflictsWith(name)) {
+    recorder.Note(
+        LossKind::NotWritten, node,
+        u"'" + name + u"' is the name or the group of another constant, which is written");
+  }
+  recorded_.Add(name);
+}
+
 void intProjectConstants::ReadConstant(const Text& name, const XmlNode& node,
                                        ProjectConstants& list) {
   // Whatever stands in the two places is taken for the type and the value.
   const XmlNode type = node.firstChild();
   const XmlNode value = type.nextSibling();
   if (!value) throw MissingContent(node);
+  if (LossRecorder* const recorder = node.recorder()) {
+    recorder->ReadAs(type, u"Type");
+    recorder->ReadAs(value, u"Value");
+  }
   const Text typeText = RequiredText(type);
   list.Add(ProjectConstant::Form()(name, typeText, RequiredText(value)));
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "praxen/core/counters.h"
+#include "praxen/model/application/dotted_name_index.h"
 #include "praxen/model/application/project_constant.h"
 #include "praxen/xml/xml_document.h"
 
@@ -91,10 +92,13 @@ class intProjectConstants {
   void AddRecursive(intProjectConstant& level, std::u16string_view name, std::u16string_view type,
                     std::u16string_view value);
   void ReadLevel(XmlNode node, ProjectConstants& list, const Text& prefix);
+  void RecordEntry(const XmlNode& node, const Text& name);
   void ReadConstant(const Text& name, const XmlNode& node, ProjectConstants& list);
 
   std::deque<intProjectConstant> entries_;
   size_t name_characters_ = 0;
+  /// The names of the constants read, while their reading is recorded.
+  DottedNameIndex recorded_;
 };
 
 }  // namespace praxen::detail

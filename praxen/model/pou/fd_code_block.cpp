@@ -1,6 +1,7 @@
 // The diagram of an FDCodeBlock as markup.
 #include "praxen/model/pou/fd_code_block.h"
 
+#include "praxen/xml/loss_recorder.h"
 #include "praxen/xml/xml_document.h"
 #include "praxen/xml/xml_markup.h"
 #include "praxen/xml/xml_string_writer.h"
@@ -23,6 +24,7 @@ void FDCodeBlock::ReadDiagram(XmlNode& cursor) {
   const bool isText = cursor.nodeName() == u"#text";
   if (!cursor || (isText && IsXmlBlank(cursor.nodeValue()))) return;
   FDAsXMLStr = cursor.Markup();
+  if (cursor.recorder() != nullptr) cursor.recorder()->TakeMarkup(cursor, u"FDCodeBlock");
   cursor = cursor.nextSibling();
 }
 
