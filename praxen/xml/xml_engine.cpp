@@ -3,24 +3,29 @@
 
 #include <new>
 #include <string>
+#include <utility>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/SynchronizedStringPool.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
 #include <xercesc/util/XMLUni.hpp>
 #include <xercesc/validators/common/Grammar.hpp>
 
-#include "praxen/core/numbers.h"
 #include "praxen/core/text.h"
-#include "praxen/xml/xml_limits.h"
 #include "praxen/xml/xml_reason.h"
 
 namespace praxen::detail {
 namespace {
 
-std::unique_ptr<xercesc::SGXMLScanner> MakeScanner(xercesc::XMLDocumentHandler* handler,
-                                                   NoEntities& entities, XmlReporter& reporter,
-                                                   xercesc::GrammarResolver& grammars,
-                                                   XmlMemory& memory) {
+// After so many characters, or so many names that the schema does not declare, what a scanner has
+// kept of them is no longer little beside a new scanner.
+constexpr size_t kMostReadCharacters = 1'000'000;
+constexpr size_t kMostKeptNames = 100;
+
+std::unique_ptr<xercesc::SGXMLScanner> NewScanner(xercesc::XMLDocumentHandler* handler,
+                                                  NoEntities& entities, XmlReporter& reporter,
+                                                  xercesc::GrammarResolver& grammars,
+                                                  XmlMemory& memory) {
   auto scanner = std::make_unique<xercesc::SGXMLScanner>(handler, nullptr, &entities, &reporter,
                                                          nullptr, &grammars, &memory);
   scanner->setURIStringPool(grammars.getStringPool());
@@ -58,6 +63,13 @@ XmlParseError Run(Parse parse, Explain explain) {
 
 }  // namespace
 
+void XmlGrammarPool::RenewNamespaces() {
+  constexpr unsigned int kLists = 109;
+  namespaces_ = nullptr;
+  namespaces_ = std::make_unique<xercesc::XMLSynchronizedStringPool>(getURIStringPool(), kLists,
+                                                                     getMemoryManager());
+}
+
 xercesc::InputSource* NoEntities::resolveEntity(xercesc::XMLResourceIdentifier* resource) {
   if (resource->getResourceIdentifierType() != xercesc::XMLResourceIdentifier::ExternalEntity) {
     return nullptr;
@@ -75,15 +87,11 @@ XmlEngine::XmlEngine(const XmlSchemaSource& schema) {
           [&] { return ExplainSchemaComplaint(FromUtf8(schema.systemId), reporter_.complaint()); });
   memory_->RequireNoShortage();
   if (!schemaError_.reason.empty()) return;
-  pool_.lockPool();
-  grammars_ = std::make_unique<xercesc::GrammarResolver>(&pool_, memory_.get());
-  scanner_ = MakeScanner(&builder_, entities_, reporter_, *grammars_, *memory_);
-  scanner_->useCachedGrammarInParse(true);
-  ownNamespaces_ = CountNamespaces();
+  MakeScanner();
   memory_->RequireNoShortage();
-  builder_.onElement = [this] {
+  builder_.onMarkup = [this] {
     memory_->RequireNoShortage();
-    CheckNames();
+    RequireFewNames();
   };
 }
 
@@ -94,6 +102,8 @@ XmlLoadResult XmlEngine::Load(std::u16string_view text, XmlTree& tree) {
   return WithMemory([&] {
     // What a parser that could not end is good for is not known.
     retired_ = true;
+    if (scanner_ == nullptr) MakeScanner();
+    readCharacters_ += text.size();
     XmlLoadResult result;
     result.error =
         Run([&] { Parse(text, tree); },
@@ -102,15 +112,18 @@ XmlLoadResult XmlEngine::Load(std::u16string_view text, XmlTree& tree) {
                                          {builder_.startedElements(), builder_.openElement()});
             });
     result.rootDeclared = builder_.rootDeclared();
+    if (readCharacters_ > kMostReadCharacters || builder_.foreignNames().kept() > kMostKeptNames) {
+      GiveUpScanner();
+    }
     memory_->RequireNoShortage();
-    retired_ = CountNamespaces() > ownNamespaces_ + kMaxXmlForeignNames / 2;
+    retired_ = false;
     return result;
   });
 }
 
 void XmlEngine::Compile(const XmlSchemaSource& schema) {
   xercesc::GrammarResolver grammars(&pool_, memory_.get());
-  const auto scanner = MakeScanner(nullptr, entities_, reporter_, grammars, *memory_);
+  const auto scanner = NewScanner(nullptr, entities_, reporter_, grammars, *memory_);
   const xercesc::MemBufInputSource source(Bytes(schema.content.data()), schema.content.size(),
                                           schema.systemId.c_str());
   reporter_.Begin(nullptr);
@@ -130,17 +143,28 @@ void XmlEngine::Parse(std::u16string_view text, XmlTree& tree) {
   scanner_->scanDocument(source);
 }
 
-// Xerces looks names up in tables that can be made slow by a choice of names.
-void XmlEngine::CheckNames() {
-  if (builder_.foreignNames() <= kMaxXmlForeignNames &&
-      CountNamespaces() <= ownNamespaces_ + 2 * kMaxXmlForeignNames) {
-    return;
-  }
+// The grammars stay; namespaces, names and the buffers of elements and attributes will be new.
+void XmlEngine::GiveUpScanner() {
+  const XmlMemory::Release release(*memory_);
+  scanner_.reset();
+  grammars_.reset();
+}
+
+void XmlEngine::MakeScanner() {
+  pool_.RenewNamespaces();
+  builder_.BeginParser();
+  readCharacters_ = 0;
+  grammars_ = std::make_unique<xercesc::GrammarResolver>(&pool_, memory_.get());
+  scanner_ = NewScanner(&builder_, entities_, reporter_, *grammars_, *memory_);
+  scanner_->useCachedGrammarInParse(true);
+}
+
+void XmlEngine::RequireFewNames() {
+  std::u16string excess = builder_.foreignNames().Excess();
+  if (excess.empty()) return;
   const xercesc::Locator& place = *scanner_->getLocator();
-  reporter_.Refuse(u"too many different names that the schema does not declare; at most " +
-                       DecimalText(kMaxXmlForeignNames) + u" are allowed",
-                   {static_cast<uint32_t>(place.getLineNumber()),
-                    static_cast<uint32_t>(place.getColumnNumber())});
+  reporter_.Refuse(std::move(excess), {static_cast<uint32_t>(place.getLineNumber()),
+                                       static_cast<uint32_t>(place.getColumnNumber())});
 }
 
 }  // namespace praxen::detail

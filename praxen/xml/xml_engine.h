@@ -9,6 +9,7 @@
 #include <xercesc/framework/XMLEntityHandler.hpp>
 #include <xercesc/framework/XMLGrammarPoolImpl.hpp>
 #include <xercesc/internal/SGXMLScanner.hpp>
+#include <xercesc/util/StringPool.hpp>
 #include <xercesc/validators/common/GrammarResolver.hpp>
 
 #include "praxen/xml/xerces_use.h"
@@ -38,7 +39,23 @@ class NoEntities final : public xercesc::XMLEntityHandler {
   void resetEntities() override {}
 };
 
-/// A parser with a compiled schema, for one load after the other.
+/// The compiled schema, with a pool of namespaces that can be made anew.
+class XmlGrammarPool final : public xercesc::XMLGrammarPoolImpl {
+ public:
+  using XMLGrammarPoolImpl::XMLGrammarPoolImpl;
+
+  /// Puts a pool that has the namespaces of the schema alone in the place of the one before.
+  void RenewNamespaces();
+  xercesc::XMLStringPool* getURIStringPool() override {
+    return namespaces_ != nullptr ? namespaces_.get() : XMLGrammarPoolImpl::getURIStringPool();
+  }
+
+ private:
+  std::unique_ptr<xercesc::XMLStringPool> namespaces_;
+};
+
+/// A parser with a compiled schema, for one load after the other. What documents leave in its
+/// tables and buffers is given up before it is much.
 class XmlEngine {
  public:
   /// Compiles the schema. Where `schemaError` gives a reason afterwards, nothing can be loaded.
@@ -52,7 +69,7 @@ class XmlEngine {
   /// Adds the nodes of a checked text to an empty tree. The names of the nodes are valid until the
   /// next load.
   XmlLoadResult Load(std::u16string_view text, XmlTree& tree);
-  /// Whether the engine has to make room for a new one, having grown or not finished a load.
+  /// Whether the engine has to make room for a new one, not having finished a load.
   bool retired() const { return retired_; }
 
  private:
@@ -60,8 +77,9 @@ class XmlEngine {
 
   void Compile(const XmlSchemaSource& schema);
   void Parse(std::u16string_view text, XmlTree& tree);
-  void CheckNames();
-  size_t CountNamespaces() const { return grammars_->getStringPool()->getStringCount(); }
+  void MakeScanner();
+  void GiveUpScanner();
+  void RequireFewNames();
 
   /// Everything else needs Xerces up to its end.
   const XercesUse xerces_;
@@ -72,11 +90,12 @@ class XmlEngine {
   NoEntities entities_;
   XmlReporter reporter_;
   XmlTreeBuilder builder_;
-  xercesc::XMLGrammarPoolImpl pool_{memory_.get()};
+  XmlGrammarPool pool_{memory_.get()};
   std::unique_ptr<xercesc::GrammarResolver> grammars_;
   std::unique_ptr<xercesc::SGXMLScanner> scanner_;
   XmlParseError schemaError_;
-  size_t ownNamespaces_ = 0;
+  /// How many characters the scanner has read since it was new.
+  size_t readCharacters_ = 0;
   bool retired_ = false;
 };
 

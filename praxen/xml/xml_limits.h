@@ -17,9 +17,14 @@ inline constexpr uint32_t kMaxXmlAttributes = 1'000;
 /// after the other.
 inline constexpr uint32_t kMaxXmlNamespacesInScope = 1'000;
 
-/// How many different names that the schema does not declare, prefixes included, and how many
-/// different namespaces a document may use.
+/// How many different names that the schema does not declare, prefixes included, how many elements
+/// of such names and their namespaces, and how many different namespaces a document may use.
 inline constexpr size_t kMaxXmlForeignNames = 2'000;
+
+/// How many of these elements, and how many prefixes or namespaces, may fall into one list of the
+/// parser's tables, which it searches from end to end. Only names that are chosen for it do.
+inline constexpr size_t kMaxXmlAlikeElements = 200;
+inline constexpr size_t kMaxXmlAlikeNamespaces = 64;
 
 /// The length of a name of an element, attribute or processing instruction in UTF-16 units.
 inline constexpr size_t kMaxXmlNameLength = 100'000;

@@ -113,6 +113,7 @@ class XmlTree {
   void AddComment(std::u16string_view characters);
   void AddInstruction(XmlName target, std::u16string_view content);
 
+  const std::u16string& targetNamespace() const { return targetNamespace_; }
   uint32_t size() const { return size_; }
   size_t depth() const { return open_.size(); }
   /// The element that is open while nodes are added.

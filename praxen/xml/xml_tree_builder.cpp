@@ -9,6 +9,8 @@ namespace {
 // Attributes beyond this number on one declaration come from a wildcard and are not remembered.
 constexpr size_t kRememberedAttributes = 256;
 
+constexpr std::u16string_view kXmlns = u"xmlns";
+
 bool Equals(const XMLCh* text, std::u16string_view other) {
   for (const char16_t c : other) {
     if (*text++ != c) return false;
@@ -22,7 +24,14 @@ void XmlTreeBuilder::Begin(XmlTree& tree) {
   tree_ = &tree;
   startedElements_ = 0;
   rootDeclared_ = false;
-  foreignNames_.Clear();
+  foreignNames_.BeginDocument();
+}
+
+void XmlTreeBuilder::BeginParser() {
+  foreignNames_.BeginParser();
+  // Attributes that wildcards let in are among those that are known.
+  known_.clear();
+  schemaNames_.Clear();
 }
 
 std::u16string_view XmlTreeBuilder::openElement() const {
@@ -38,6 +47,7 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration, un
   if (isRoot) rootDeclared_ = declared;
   // Only declarations of the schema live longer than the load.
   KnownElement* const element = declared ? &Known(declaration) : nullptr;
+  if (!declared) foreignNames_.AddElement(declaration.getId(), declaration.getBaseName());
   const XmlName name = element != nullptr && *prefix == 0
                            ? element->name
                            : foreignNames_.Intern(Qualified(prefix, declaration.getBaseName()));
@@ -49,7 +59,12 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration, un
   for (XMLSize_t i = 0; i < attributeCount; ++i) {
     const xercesc::XMLAttr& given = *attributes.elementAt(i);
     const bool specified = given.getSpecified();
-    KnownAttribute* const attribute = element == nullptr ? nullptr : Find(*element, cursor, given);
+    const bool declaresPrefix = *given.getPrefix() != 0 && Equals(given.getPrefix(), kXmlns);
+    if (declaresPrefix || (*given.getName() == u'x' && Equals(given.getName(), kXmlns))) {
+      AddNamespace(declaresPrefix ? given.getName() : u"", given.getValue());
+    }
+    KnownAttribute* const attribute =
+        element == nullptr || declaresPrefix ? nullptr : Find(*element, cursor, given);
     if (attribute != nullptr) {
       // Where it does not validate, as inside an unknown element, Xerces adds the default of an
       // attribute also when the text gives it.
@@ -64,7 +79,7 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration, un
                     value.data(), static_cast<uint32_t>(value.size()), specified};
   }
   tree_->AddElement(name, {run, count});
-  if (onElement) onElement();
+  if (onMarkup) onMarkup();
 }
 
 void XmlTreeBuilder::endElement(const xercesc::XMLElementDecl&, unsigned int, bool, const XMLCh*) {
@@ -79,6 +94,12 @@ void XmlTreeBuilder::docComment(const XMLCh* comment) { tree_->AddComment(commen
 
 void XmlTreeBuilder::docPI(const XMLCh* target, const XMLCh* data) {
   tree_->AddInstruction(foreignNames_.Intern(target), data);
+  if (onMarkup) onMarkup();
+}
+
+void XmlTreeBuilder::AddNamespace(std::u16string_view prefix, std::u16string_view name) {
+  const bool isSchemas = prefix.empty() && name == tree_->targetNamespace();
+  if (!isSchemas) foreignNames_.AddNamespace(prefix, name);
 }
 
 XmlTreeBuilder::KnownElement& XmlTreeBuilder::Known(const xercesc::XMLElementDecl& declaration) {

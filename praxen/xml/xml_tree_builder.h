@@ -13,6 +13,7 @@
 #include <xercesc/framework/XMLDocumentHandler.hpp>
 #include <xercesc/framework/XMLElementDecl.hpp>
 
+#include "praxen/xml/xml_foreign_names.h"
 #include "praxen/xml/xml_name.h"
 #include "praxen/xml/xml_tree.h"
 
@@ -32,10 +33,12 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
   /// The name of the innermost open element; empty outside the root.
   std::u16string_view openElement() const;
   bool rootDeclared() const { return rootDeclared_; }
-  /// How many different names were met that the schema does not declare.
-  size_t foreignNames() const { return foreignNames_.size(); }
-  /// Called after each start tag.
-  std::function<void()> onElement;
+  /// What was met that the schema does not declare.
+  const XmlForeignNames& foreignNames() const { return foreignNames_; }
+  /// Prepares for a new parser, which uses the same declarations.
+  void BeginParser();
+  /// Called after each start tag and processing instruction.
+  std::function<void()> onMarkup;
 
   void startElement(const xercesc::XMLElementDecl& declaration, unsigned int, const XMLCh* prefix,
                     const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
@@ -66,6 +69,7 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
     std::vector<KnownAttribute> attributes;
   };
 
+  void AddNamespace(std::u16string_view prefix, std::u16string_view name);
   KnownElement& Known(const xercesc::XMLElementDecl& declaration);
   KnownAttribute* Find(KnownElement& element, size_t& cursor, const xercesc::XMLAttr& attribute);
   std::u16string_view DefaultValue(KnownAttribute* attribute, const XMLCh* value);
@@ -78,7 +82,7 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
   bool rootDeclared_ = false;
 
   XmlNameUser schemaNames_;
-  XmlNameUser foreignNames_;
+  XmlForeignNames foreignNames_;
   std::unordered_map<const xercesc::XMLElementDecl*, KnownElement> known_;
   std::set<std::u16string, std::less<>> defaultValues_;
   std::u16string qualifiedName_;

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <thread>
 #include <vector>
+#include <xercesc/util/XMLString.hpp>
 
 #include "praxen/xml/xml_limits.h"
 
@@ -257,6 +258,18 @@ std::u16string Numbered(std::u16string_view pattern, size_t count) {
   return out;
 }
 
+// The pattern for so many names that Xerces keeps in one list of a table with that many lists.
+std::u16string Alike(std::u16string_view pattern, size_t lists, size_t count) {
+  std::u16string out;
+  for (size_t number = 0; count > 0; ++number) {
+    const std::u16string name = u"n" + DecimalText(number);
+    if (xercesc::XMLString::hash(name.c_str(), lists) != 7) continue;
+    for (const char16_t c : pattern) c == u'#' ? out += name : out += c;
+    --count;
+  }
+  return out;
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Table, HostileText,
     testing::Values(
@@ -321,6 +334,31 @@ INSTANTIATE_TEST_SUITE_P(
                     [] { return u"<a>" + Numbered(u"<b#/>", 1999) + u"</a>"; }, nullptr},
         HostileCase{"one name too many", [] { return u"<a>" + Numbered(u"<b#/>", 2000) + u"</a>"; },
                     "Too many different names that the schema does not declare; at most 2000 are"},
+        HostileCase{"as many names of one list as there may be",
+                    [] { return u"<a>" + Alike(u"<#/>", 29, 200) + u"</a>"; }, nullptr},
+        HostileCase{"one name of one list too many",
+                    [] { return u"<a>" + Alike(u"<#/>", 29, 201) + u"</a>"; },
+                    "Too many names that the schema does not declare fall into one list of the "
+                    "parser; at most 200 are allowed."},
+        HostileCase{"prefixes of one list",
+                    [] { return u"<a>" + Alike(u"<b xmlns:#='u'/>", 439, 65) + u"</a>"; },
+                    "Too many prefixes or namespaces fall into one list of the parser; at most 64"},
+        HostileCase{"namespaces of one list",
+                    [] { return u"<a>" + Alike(u"<b xmlns='#'/>", 3519, 65) + u"</a>"; },
+                    "Too many prefixes or namespaces fall into one list of the parser; at most 64"},
+        HostileCase{
+            "names of one list under many namespaces",
+            [] { return u"<a>" + Numbered(u"<b xmlns='u#'><c/><d/></b>", 100'000) + u"</a>"; },
+            "fall into one list of the parser"},
+        HostileCase{"prefixes one after the other",
+                    [] {
+                      return u"<List xmlns='urn:test' Name='x'>" +
+                             Numbered(u"<Value xmlns:p#='u'/>", 100'000) + u"</List>";
+                    },
+                    "Too many different names"},
+        HostileCase{"targets one after the other",
+                    [] { return u"<a>" + Numbered(u"<?b#?>", 100'000) + u"</a>"; },
+                    "Too many different names"},
         HostileCase{"namespaces one after the other",
                     [] { return u"<a>" + Numbered(u"<b xmlns:p='u#'/>", 1'000'000) + u"</a>"; },
                     "Too many different names"},
