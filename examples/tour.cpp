@@ -2,6 +2,8 @@
 #include <cstdlib>
 #include <iostream>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include "praxen/praxen.h"
 
@@ -80,6 +82,17 @@ void Keep(const std::filesystem::path& folder) {
   if (const auto program = document.As<Program>()) std::cout << program->Name << '\n';
 }
 
+void UseThreads() {
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([] {
+      const Text xml = Build()->Serialize();
+      ObjectFactory::DeserializeProgram(xml);
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+}
+
 }  // namespace
 
 int main() {
@@ -93,5 +106,6 @@ int main() {
   std::filesystem::create_directories(folder);
   Keep(folder);
   std::filesystem::remove_all(folder);
+  UseThreads();
   return EXIT_SUCCESS;
 }

@@ -28,6 +28,7 @@ class ReaderDocument {
   ReaderDocument& operator=(const ReaderDocument&) = delete;
   ~ReaderDocument();
 
+  XmlDocument& operator*() const noexcept { return *document_; }
   XmlDocument* operator->() const noexcept { return document_.get(); }
 
  private:
