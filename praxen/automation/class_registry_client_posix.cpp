@@ -64,6 +64,9 @@ class LoadedServers {
 
  private:
   static HRESULT Load(const std::filesystem::path& path, Server& server) {
+    // A pipe, say, would be waited for.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return CO_E_DLLNOTFOUND;
     void* const handle = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (handle == nullptr) return CO_E_DLLNOTFOUND;
     const auto getClassObject =

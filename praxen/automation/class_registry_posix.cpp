@@ -1,6 +1,8 @@
 // The registry of classes: a text file that is read as a whole and replaced as a whole.
 #include "praxen/automation/class_registry_posix.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,8 +10,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -66,20 +66,59 @@ fs::path UserDataFolder() {
   return home.is_absolute() ? home / ".local" / "share" : fs::path();
 }
 
-// The text of the file, empty when there is none; none when it cannot be read.
-std::optional<std::string> ReadFile(const fs::path& file) {
-  std::error_code error;
-  const fs::file_status status = fs::status(file, error);
-  if (status.type() == fs::file_type::not_found) return std::string();
-  if (!fs::is_regular_file(status)) return std::nullopt;
-  const uintmax_t size = fs::file_size(file, error);
-  if (error || size > kMaxFileSize) return std::nullopt;
-  std::ifstream stream(file, std::ios::binary);
-  std::string text(static_cast<size_t>(size), '\0');
-  if (!stream.read(text.data(), static_cast<std::streamsize>(size))) return std::nullopt;
+// An open file, or none.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() { Close(); }
+
+  explicit operator bool() const { return number_ >= 0; }
+  int number() const { return number_; }
+  bool Close() { return number_ < 0 || ::close(std::exchange(number_, -1)) == 0; }
+
+ private:
+  int number_;
+};
+
+// The last failure of a function of the system.
+std::string SystemFault() { return std::generic_category().message(errno); }
+
+// A file's text, empty when there is no file, or why it cannot be read.
+struct FileText {
+  std::string text;
+  std::string fault;
+  mode_t mode = 0644;
+};
+
+FileText Fault(const std::string& fault) { return {{}, fault}; }
+
+bool ReadAll(int descriptor, std::string& text) {
+  for (size_t at = 0; at < text.size();) {
+    const ssize_t count = ::read(descriptor, text.data() + at, text.size() - at);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) return false;
+    if (count == 0) text.resize(at);
+    at += static_cast<size_t>(count);
+  }
+  return true;
+}
+
+FileText ReadFile(const fs::path& file) {
+  // Opening what is no file, such as a pipe, must not wait for whoever is at its other end.
+  const Descriptor opened(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  if (!opened) return errno == ENOENT ? FileText() : Fault(SystemFault());
+  struct stat status = {};
+  if (::fstat(opened.number(), &status) != 0) return Fault(SystemFault());
+  if (!S_ISREG(status.st_mode)) return Fault("it is no regular file");
+  if (static_cast<uintmax_t>(status.st_size) > kMaxFileSize) return Fault("it is too large");
+  std::string text(static_cast<size_t>(status.st_size), '\0');
+  if (!ReadAll(opened.number(), text)) return Fault(SystemFault());
   constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
   if (text.starts_with(kByteOrderMark)) text.erase(0, kByteOrderMark.size());
-  return text;
+  constexpr mode_t kPermissions = 07777;
+  return {std::move(text), {}, status.st_mode & kPermissions};
 }
 
 bool WriteAll(int descriptor, std::string_view text) {
@@ -93,20 +132,46 @@ bool WriteAll(int descriptor, std::string_view text) {
 }
 
 // Writes a file of its own beside the target and then puts it in the target's place.
-bool ReplaceFile(const fs::path& file, std::string_view text) {
-  std::error_code error;
-  fs::create_directories(file.parent_path(), error);
+bool ReplaceFile(const fs::path& file, std::string_view text, mode_t mode) {
   std::string temporary = file.string() + ".XXXXXX";
-  const int descriptor = ::mkstemp(temporary.data());
-  if (descriptor < 0) return false;
-  constexpr mode_t kOwnerWritesAllRead = 0644;
-  const bool complete = WriteAll(descriptor, text) &&
-                        ::fchmod(descriptor, kOwnerWritesAllRead) == 0 && ::fsync(descriptor) == 0;
-  const bool closed = ::close(descriptor) == 0;
-  if (complete && closed && ::rename(temporary.c_str(), file.c_str()) == 0) return true;
+  Descriptor made(::mkstemp(temporary.data()));
+  if (!made) return false;
+  const bool complete = WriteAll(made.number(), text) && ::fchmod(made.number(), mode) == 0 &&
+                        ::fsync(made.number()) == 0;
+  if (complete && made.Close() && ::rename(temporary.c_str(), file.c_str()) == 0) return true;
+  const int cause = errno;
   ::unlink(temporary.c_str());
+  errno = cause;
   return false;
 }
+
+// The file at the end of symbolic links, whether it exists or not.
+fs::path FollowLinks(fs::path file) {
+  constexpr int kMostLinks = 40;
+  std::error_code error;
+  for (int links = 0; links < kMostLinks && fs::is_symlink(file, error); ++links) {
+    file = file.parent_path() / fs::read_symlink(file, error);
+  }
+  return file;
+}
+
+// Holds the lock of a folder, in which a file is replaced; the file could not carry it.
+class FolderLock {
+ public:
+  explicit FolderLock(const fs::path& folder)
+      : folder_(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    while (folder_ && !held_) {
+      held_ = ::flock(folder_.number(), LOCK_EX) == 0;
+      if (!held_ && errno != EINTR) return;
+    }
+  }
+
+  explicit operator bool() const { return held_; }
+
+ private:
+  const Descriptor folder_;
+  bool held_ = false;
+};
 
 // The lines of text but for those of the classes for which isReplaced holds.
 template <class Predicate>
@@ -121,15 +186,38 @@ std::string WithoutClasses(std::string_view text, Predicate isReplaced) {
   return kept;
 }
 
+// What became of a change of the file; a fault tells why it failed.
+struct Change {
+  HRESULT result = S_OK;
+  std::string fault = {};
+};
+
 template <class Predicate>
-HRESULT Rewrite(Predicate isReplaced, std::string_view added) {
-  const fs::path file = RegistryFile();
-  if (file.empty()) return REGDB_E_WRITEREGDB;
-  const auto text = ReadFile(file);
-  if (!text) return REGDB_E_READREGDB;
-  const std::string changed = WithoutClasses(*text, isReplaced).append(added);
-  if (changed == *text) return S_OK;
-  return ReplaceFile(file, changed) ? S_OK : REGDB_E_WRITEREGDB;
+Change Rewrite(const fs::path& file, Predicate isReplaced, std::string_view added) {
+  if (file.empty()) return {REGDB_E_WRITEREGDB, "HOME does not name the user's folder"};
+  std::error_code error;
+  const fs::path folder = fs::absolute(file, error).parent_path();
+  if (!added.empty()) fs::create_directories(folder, error);
+  const FolderLock lock(folder);
+  if (!lock && errno == ENOENT && added.empty()) return {};
+  if (!lock) return {REGDB_E_WRITEREGDB, error ? error.message() : SystemFault()};
+  const FileText before = ReadFile(file);
+  if (!before.fault.empty()) return {REGDB_E_READREGDB, before.fault};
+  const std::string after = WithoutClasses(before.text, isReplaced).append(added);
+  if (after == before.text || ReplaceFile(file, after, before.mode)) return {};
+  return {REGDB_E_WRITEREGDB, SystemFault()};
+}
+
+template <class Predicate>
+HRESULT Rewrite(Predicate isReplaced, std::string_view added, std::string* reason) {
+  const fs::path file = FollowLinks(RegistryFile());
+  const Change change = Rewrite(file, isReplaced, added);
+  if (reason != nullptr && !change.fault.empty()) {
+    const char* const failed = change.result == REGDB_E_READREGDB ? "read" : "changed";
+    *reason = (file.empty() ? "The file of classes" : file.string()) + " cannot be " + failed +
+              ": " + change.fault;
+  }
+  return change.result;
 }
 
 // The lines of the classes, empty when reading them back would not give the same classes.
@@ -176,8 +264,8 @@ bool Contains(const std::vector<std::string>& sorted, std::string_view name) {
 
 template <class Predicate>
 std::optional<ClassLocation> Find(Predicate isWanted) {
-  const auto text = ReadFile(RegistryFile());
-  std::string_view rest = text ? std::string_view(*text) : std::string_view();
+  const std::string text = ReadFile(RegistryFile()).text;
+  std::string_view rest = text;
   while (!rest.empty()) {
     const auto line = ParseLine(TakeUntil(rest, '\n'));
     if (line && isWanted(*line)) return ClassLocation{line->clsid, line->server};
@@ -194,10 +282,14 @@ fs::path RegistryFile() {
   return folder.empty() ? folder : folder / "praxenhelper" / "classes";
 }
 
-HRESULT RegisterClasses(std::span<const ClassEntry> classes, const fs::path& server) noexcept {
+HRESULT RegisterClasses(std::span<const ClassEntry> classes, const fs::path& server,
+                        std::string* reason) noexcept {
   return Guarded([&]() -> HRESULT {
     const std::string added = FormatClasses(classes, server.string());
-    if (added.empty()) return classes.empty() ? S_OK : E_INVALIDARG;
+    if (added.empty() && !classes.empty()) {
+      if (reason != nullptr) *reason = "The path " + server.string() + " cannot be registered";
+      return E_INVALIDARG;
+    }
     std::vector<CLSID> identifiers;
     for (const ClassEntry& entry : classes) identifiers.push_back(entry.clsid);
     identifiers = Sorted(std::move(identifiers));
@@ -206,14 +298,14 @@ HRESULT RegisterClasses(std::span<const ClassEntry> classes, const fs::path& ser
         [&](const Line& line) {
           return Contains(identifiers, line.clsid) || Contains(names, line.progId);
         },
-        added);
+        added, reason);
   });
 }
 
-HRESULT UnregisterClasses(std::span<const CLSID> classes) noexcept {
+HRESULT UnregisterClasses(std::span<const CLSID> classes, std::string* reason) noexcept {
   return Guarded([&] {
     const std::vector<CLSID> identifiers = Sorted({classes.begin(), classes.end()});
-    return Rewrite([&](const Line& line) { return Contains(identifiers, line.clsid); }, {});
+    return Rewrite([&](const Line& line) { return Contains(identifiers, line.clsid); }, {}, reason);
   });
 }
 

@@ -6,12 +6,16 @@
 #include <gnu/libc-version.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <string>
+#include <thread>
+#include <vector>
 
 #include "praxen/automation/guid.h"
 
@@ -139,21 +143,59 @@ TEST_F(ClassRegistry, RefusesWhatTheFileCannotHold) {
 
 TEST_F(ClassRegistry, ReportsFilesThatCannotServe) {
   const std::array<ClassEntry, 1> classes = {{{"A.B", kFirst}}};
-  UseFile(folder_);
-  EXPECT_EQ(RegisterClasses(classes, "/s.so"), REGDB_E_READREGDB);
-  EXPECT_FALSE(LookUpProgId("A.B"));
+  ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
+  ASSERT_EQ(::symlink("loop", (folder_ / "loop").c_str()), 0);
+  std::ofstream(folder_ / "large") << std::string(5 << 20, '\n');
+  const struct {
+    fs::path file;
+    HRESULT expected;
+    const char* cause;
+  } cases[] = {
+      {folder_, REGDB_E_READREGDB, "it is no regular file"},
+      {folder_ / "pipe", REGDB_E_READREGDB, "it is no regular file"},
+      {folder_ / "large", REGDB_E_READREGDB, "it is too large"},
+      {folder_ / "loop", REGDB_E_READREGDB, "Too many levels of symbolic links"},
+      {folder_ / "large" / "classes", REGDB_E_WRITEREGDB, "Not a directory"},
+      {"/proc/none/classes", REGDB_E_WRITEREGDB, "No such file or directory"},
+  };
+  for (const auto& row : cases) {
+    UseFile(row.file);
+    std::string reason;
+    EXPECT_EQ(RegisterClasses(classes, "/s.so", &reason), row.expected) << row.file;
+    const bool isRead = row.expected == REGDB_E_READREGDB;
+    EXPECT_EQ(reason,
+              row.file.string() + " cannot be " + (isRead ? "read: " : "changed: ") + row.cause);
+    EXPECT_EQ(UnregisterClasses(std::array{kFirst}) == S_OK, row.file == "/proc/none/classes");
+    EXPECT_FALSE(LookUpProgId("A.B"));
+  }
+}
 
-  UseFile(folder_ / "pipe");
-  ASSERT_EQ(::mkfifo(file_.c_str(), 0600), 0);
-  EXPECT_FALSE(LookUpProgId("A.B"));
-  EXPECT_EQ(UnregisterClasses(std::array{kFirst}), REGDB_E_READREGDB);
+TEST_F(ClassRegistry, KeepsModeAndSymbolicLinks) {
+  const std::array<ClassEntry, 1> classes = {{{"A.B", kFirst}}};
+  UseFile(folder_ / "link");
+  ASSERT_EQ(::symlink("real/classes", file_.c_str()), 0);
+  ASSERT_EQ(RegisterClasses(classes, "/s.so"), S_OK);
+  const fs::path target = folder_ / "real" / "classes";
+  ASSERT_TRUE(fs::is_regular_file(fs::symlink_status(target)));
+  fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write);
+  ASSERT_EQ(RegisterClasses(classes, "/other.so"), S_OK);
+  EXPECT_TRUE(fs::is_symlink(file_));
+  EXPECT_EQ(fs::status(target).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(LookUpProgId("A.B")->server, "/other.so");
+}
 
-  UseFile(folder_ / "large");
-  Write(std::string(5 << 20, '\n'));
-  EXPECT_EQ(RegisterClasses(classes, "/s.so"), REGDB_E_READREGDB);
-
-  UseFile(folder_ / "large" / "classes");
-  EXPECT_NE(RegisterClasses(classes, "/s.so"), S_OK);
+TEST_F(ClassRegistry, ChangesOfSeveralThreadsAllCount) {
+  constexpr int kThreads = 8;
+  std::vector<std::thread> threads;
+  for (int i = 0; i < kThreads; ++i) {
+    threads.emplace_back([i] {
+      const std::string name = "Library." + std::to_string(i);
+      const std::array<ClassEntry, 1> classes = {{{name, ToGuid(NameUuid({}, name))}}};
+      EXPECT_EQ(RegisterClasses(classes, "/s.so"), S_OK);
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  for (int i = 0; i < kThreads; ++i) EXPECT_TRUE(LookUpProgId("Library." + std::to_string(i))) << i;
 }
 
 TEST_F(ClassRegistry, LiesInTheUsersDataFolder) {
@@ -184,7 +226,9 @@ TEST_F(ClassRegistry, ReportsWhyNoObjectIsCreated) {
   // A function of the C library that no sanitizer stands in for.
   ASSERT_NE(::dladdr(reinterpret_cast<void*>(&::gnu_get_libc_version), &library), 0);
   Write(Line("No.File", kFirst, "/does/not/exist.so") + "\n" +
-        Line("No.Server", kSecond, library.dli_fname));
+        Line("No.Server", kSecond, library.dli_fname) + "\n" +
+        Line("A.Pipe", ToGuid(NameUuid({}, "pipe")), (folder_ / "pipe").string()));
+  ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
   const struct {
     const char16_t* progId;
     HRESULT expected;
@@ -192,6 +236,7 @@ TEST_F(ClassRegistry, ReportsWhyNoObjectIsCreated) {
       {nullptr, E_INVALIDARG},         {u"", CO_E_CLASSSTRING},
       {u"No.Class", CO_E_CLASSSTRING}, {u"N\u00F6.File", CO_E_CLASSSTRING},
       {u"no.file", CO_E_DLLNOTFOUND},  {u"No.Server", CO_E_ERRORINDLL},
+      {u"A.Pipe", CO_E_DLLNOTFOUND},
   };
   for (const auto& row : cases) {
     IDispatch* object = reinterpret_cast<IDispatch*>(this);
