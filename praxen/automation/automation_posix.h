@@ -374,70 +374,77 @@ inline constexpr IID IID_ISupportErrorInfo = {
 
 // ---- Functions
 
+// Another library of the process may bring functions of these names, so they are known to the
+// linker as Praxen….
 extern "C" {
 
 /// Allocates a copy of a null-terminated text; null for null or when memory is short.
-BSTR SysAllocString(const OLECHAR* text) noexcept;
+BSTR SysAllocString(const OLECHAR* text) noexcept __asm__("PraxenSysAllocString");
 /// Allocates a copy of length characters, or as many zeros when text is null.
-BSTR SysAllocStringLen(const OLECHAR* text, UINT length) noexcept;
+BSTR SysAllocStringLen(const OLECHAR* text, UINT length) noexcept
+    __asm__("PraxenSysAllocStringLen");
 /// Allocates a copy of length bytes, or as many zeros when bytes is null.
-BSTR SysAllocStringByteLen(const char* bytes, UINT length) noexcept;
+BSTR SysAllocStringByteLen(const char* bytes, UINT length) noexcept
+    __asm__("PraxenSysAllocStringByteLen");
 /// Replaces *text by a copy of source, which may lie in *text; false when memory is short.
-INT SysReAllocString(BSTR* text, const OLECHAR* source) noexcept;
+INT SysReAllocString(BSTR* text, const OLECHAR* source) noexcept __asm__("PraxenSysReAllocString");
 /// Replaces *text by a copy of length characters of source, which may lie in *text; a null source
 /// keeps the characters of *text that fit and fills up with zeros. False when memory is short.
-INT SysReAllocStringLen(BSTR* text, const OLECHAR* source, UINT length) noexcept;
+INT SysReAllocStringLen(BSTR* text, const OLECHAR* source, UINT length) noexcept
+    __asm__("PraxenSysReAllocStringLen");
 /// Frees a text; null is allowed.
-void SysFreeString(BSTR text) noexcept;
+void SysFreeString(BSTR text) noexcept __asm__("PraxenSysFreeString");
 /// The length in characters, 0 for null.
-UINT SysStringLen(BSTR text) noexcept;
+UINT SysStringLen(BSTR text) noexcept __asm__("PraxenSysStringLen");
 /// The length in bytes, 0 for null.
-UINT SysStringByteLen(BSTR text) noexcept;
+UINT SysStringByteLen(BSTR text) noexcept __asm__("PraxenSysStringByteLen");
 
 /// Makes any memory an empty variant, without freeing what it held.
-void VariantInit(VARIANTARG* variant) noexcept;
+void VariantInit(VARIANTARG* variant) noexcept __asm__("PraxenVariantInit");
 /// Frees what the variant owns and makes it empty; what is held by reference stays.
 /// DISP_E_BADVARTYPE, and no change, for types that do not exist here, arrays among them.
-HRESULT VariantClear(VARIANTARG* variant) noexcept;
+HRESULT VariantClear(VARIANTARG* variant) noexcept __asm__("PraxenVariantClear");
 /// Clears target and makes it a copy that owns its text or object; references stay references.
-HRESULT VariantCopy(VARIANTARG* target, const VARIANTARG* source) noexcept;
+HRESULT VariantCopy(VARIANTARG* target, const VARIANTARG* source) noexcept
+    __asm__("PraxenVariantCopy");
 /// As VariantCopy, but copies what a reference refers to; E_INVALIDARG for a reference to a variant
 /// that is itself a reference to a variant, and for a null reference.
-HRESULT VariantCopyInd(VARIANT* target, const VARIANTARG* source) noexcept;
+HRESULT VariantCopyInd(VARIANT* target, const VARIANTARG* source) noexcept
+    __asm__("PraxenVariantCopyInd");
 /// Converts source, or what it refers to, to a type and stores it in target, which may be source
 /// and which stays unchanged when the conversion fails. DISP_E_TYPEMISMATCH when there is no such
 /// conversion, DISP_E_OVERFLOW when the value does not fit, DISP_E_BADVARTYPE for a type unknown.
 HRESULT VariantChangeType(VARIANTARG* target, const VARIANTARG* source, USHORT flags,
-                          VARTYPE type) noexcept;
+                          VARTYPE type) noexcept __asm__("PraxenVariantChangeType");
 /// As VariantChangeType. The locale is ignored: numbers become texts with ".", texts become numbers
 /// with that or the user's decimal separator, and there is no conversion between dates and text.
 HRESULT VariantChangeTypeEx(VARIANTARG* target, const VARIANTARG* source, LCID locale, USHORT flags,
-                            VARTYPE type) noexcept;
+                            VARTYPE type) noexcept __asm__("PraxenVariantChangeTypeEx");
 
 /// Sets the error object of the calling thread, null for none; reserved must be 0.
-HRESULT SetErrorInfo(ULONG reserved, IErrorInfo* info) noexcept;
+HRESULT SetErrorInfo(ULONG reserved, IErrorInfo* info) noexcept __asm__("PraxenSetErrorInfo");
 /// Hands over the error object of the calling thread, which then has none; S_FALSE and null when
 /// there is none; reserved must be 0.
-HRESULT GetErrorInfo(ULONG reserved, IErrorInfo** info) noexcept;
+HRESULT GetErrorInfo(ULONG reserved, IErrorInfo** info) noexcept __asm__("PraxenGetErrorInfo");
 /// Creates an error object, which answers IErrorInfo as well.
-HRESULT CreateErrorInfo(ICreateErrorInfo** info) noexcept;
+HRESULT CreateErrorInfo(ICreateErrorInfo** info) noexcept __asm__("PraxenCreateErrorInfo");
 
 /// Allocates memory that another module may free; null when memory is short.
-LPVOID CoTaskMemAlloc(size_t size) noexcept;
+LPVOID CoTaskMemAlloc(size_t size) noexcept __asm__("PraxenCoTaskMemAlloc");
 /// Frees memory of CoTaskMemAlloc; null is allowed.
-void CoTaskMemFree(LPVOID memory) noexcept;
+void CoTaskMemFree(LPVOID memory) noexcept __asm__("PraxenCoTaskMemFree");
 
 /// Finds the class of a programmatic identifier; CO_E_CLASSSTRING when it is not registered.
-HRESULT CLSIDFromProgID(LPCOLESTR progId, CLSID* clsid) noexcept;
+HRESULT CLSIDFromProgID(LPCOLESTR progId, CLSID* clsid) noexcept __asm__("PraxenCLSIDFromProgID");
 
 /// Loads the server of a class and creates an object of it. REGDB_E_CLASSNOTREG when the class is
 /// not registered, CO_E_DLLNOTFOUND when the server cannot be loaded, CO_E_ERRORINDLL when it is
 /// not a server, otherwise what the server answers.
 HRESULT CoCreateInstance(REFCLSID clsid, IUnknown* outer, DWORD context, REFIID iid,
-                         void** object) noexcept;
+                         void** object) noexcept __asm__("PraxenCoCreateInstance");
 
 /// Unloads the servers that agree to it.
-HRESULT CoFreeUnusedLibraries() noexcept;
+HRESULT CoFreeUnusedLibraries() noexcept __asm__("PraxenCoFreeUnusedLibraries");
 
 }  // extern "C"
 

@@ -32,10 +32,11 @@ program.Serialize()
 ON_WINDOWS = 'import sys; sys.platform = "win32"; import praxenhelper'
 
 
-def run(code, *arguments, **environment):
+def run(code, *arguments, cwd=None, **environment):
     others = {name: value for name, value in os.environ.items() if name not in SETTINGS}
     return subprocess.run(
         [sys.executable, "-B", "-c", code, *arguments],
+        cwd=cwd,
         env={**others, **environment},
         capture_output=True,
         text=True,
@@ -67,6 +68,30 @@ class LibraryTest(unittest.TestCase):
                 done = run(CREATE, **environment)
                 self.assertEqual((done.stdout, done.stderr), (CREATED, ""))
         self.assertTrue((data / "classes").exists())
+
+    def test_the_registry_is_not_looked_for_in_the_current_folder(self):
+        data = self.folder / ".local" / "share" / "praxenhelper"
+        data.mkdir(parents=True)
+        data.joinpath("classes").write_text(f"PraxenHelper.Variable\t{{}}\t{LIBRARY}\n")
+        for environment in ({}, {"HOME": ""}, {"HOME": "."}, {"HOME": "", "XDG_DATA_HOME": "."}):
+            with self.subTest(environment):
+                done = run(CREATE, cwd=self.folder, **environment)
+                self.assertIn("0x800401F8", done.stderr)
+
+    def test_what_is_no_file_is_not_waited_for(self):
+        pipe = self.folder / "pipe"
+        os.mkfifo(pipe)
+        self.registry.write_text(f"PraxenHelper.Variable\t{{}}\t{pipe}\n")
+        null = self.folder / "null"
+        null.write_text("PraxenHelper.Variable\t{}\t/a\0b.so\n")
+        for environment in (
+            {"PRAXENHELPER_LIBRARY": str(pipe)},
+            {"PRAXENHELPER_REGISTRY": str(pipe)},
+            {"PRAXENHELPER_REGISTRY": str(self.registry)},
+            {"PRAXENHELPER_REGISTRY": str(null)},
+        ):
+            with self.subTest(environment):
+                self.assertIn("0x800401F8", run(CREATE, **environment).stderr)
 
     def test_other_lines_of_the_registry_are_passed_over(self):
         lines = (

@@ -7,7 +7,7 @@ import resource
 import unittest
 from concurrent.futures import ThreadPoolExecutor
 
-from praxenhelper import AutomationError, AutomationObject, Dispatch
+from praxenhelper import AutomationError, AutomationObject, Dispatch, _library
 
 
 def create(name):
@@ -189,11 +189,28 @@ class LifetimeTest(unittest.TestCase):
 
     def test_references_cannot_be_made_or_copied_otherwise(self):
         program = create("Program")
-        for action in (copy.copy, copy.deepcopy, pickle.dumps, type(program)):
-            with self.assertRaises(TypeError):
-                action(program)
+        held = (program, iter(program.Variables), program.Variables.Add1, program._reference)
+        for thing in (*held, _library.library()):
+            for action in (copy.copy, copy.deepcopy, pickle.dumps):
+                with self.subTest((thing, action)), self.assertRaises(TypeError):
+                    action(thing)
+        with self.assertRaises(TypeError):
+            type(program)(program)
         with self.assertRaises(AttributeError):
             object.__new__(AutomationObject).Name
+
+    def test_texts_too_long_for_their_length_are_refused(self):
+        class Encoded:
+            def __len__(self):
+                return (1 << 33) + 2
+
+        class Long(str):
+            def encode(self, *_):
+                return Encoded()
+
+        with self.assertRaises(AutomationError) as caught:
+            create("Program").Name = Long()
+        self.assertEqual(caught.exception.number, 0x8002000A)
 
     def test_texts_go_with_their_calls(self):
         made = create("Variables")

@@ -11,13 +11,22 @@
 #include "praxen/automation/create_object.h"
 #include "tests/server/client.h"
 
-STDAPI DllRegisterServer();
-STDAPI DllUnregisterServer();
-
 namespace praxen::detail::client {
 namespace {
 
 namespace fs = std::filesystem;
+
+// Calls the shared library: this program has its own copy of what is in it.
+HRESULT CallLibrary(const char* name) {
+  void* const library = ::dlopen(PRAXEN_LIBRARY_FILE, RTLD_NOW | RTLD_LOCAL);
+  if (library == nullptr) return CO_E_DLLNOTFOUND;
+  const HRESULT result = reinterpret_cast<HRESULT (*)()>(::dlsym(library, name))();
+  ::dlclose(library);
+  return result;
+}
+
+HRESULT DllRegisterServer() { return CallLibrary("DllRegisterServer"); }
+HRESULT DllUnregisterServer() { return CallLibrary("DllUnregisterServer"); }
 
 class Server : public testing::Test {
  protected:

@@ -123,7 +123,17 @@ error_source = _slot(4, POINTER(c_void_p))
 error_description = _slot(5, POINTER(c_void_p))
 
 
-class Reference:
+class Unique:
+    """What stands for something of the library's, and so can be neither copied nor pickled."""
+
+    __slots__ = ()
+
+    def __reduce_ex__(self, protocol):
+        name = type(self).__name__.lstrip("_")
+        raise TypeError(f"{name} can be neither copied nor pickled; documents can: Serialize()")
+
+
+class Reference(Unique):
     """One counted reference to an interface, which it takes over and gives back when it goes."""
 
     __slots__ = ("pointer",)

@@ -10,10 +10,14 @@ from collections import namedtuple
 from ctypes import POINTER, c_char_p, c_int32, c_uint32, c_void_p
 
 from . import _abi
-from ._errors import CO_E_CLASSSTRING, CO_E_DLLNOTFOUND, CO_E_ERRORINDLL, E_NOINTERFACE
+from ._errors import CO_E_CLASSSTRING, CO_E_DLLNOTFOUND, CO_E_ERRORINDLL, DISP_E_OVERFLOW
+from ._errors import E_NOINTERFACE
 from ._errors import AutomationError, error_for
 
 UTF_16 = f"utf-16-{sys.byteorder[0]}e"
+
+# In bytes; the length that goes before a text has 32 bits.
+_LONGEST_TEXT = 0xFFFFFFFE
 
 # `kind` is what the library calls the member: property, readonly, method or enumerator.
 Member = namedtuple("Member", "kind name parameters")
@@ -30,25 +34,30 @@ class ClassInformation:
 
 
 def _registry_file():
+    """The registry file; None for a user without a folder, which has an absolute path."""
     named = os.environ.get("PRAXENHELPER_REGISTRY")
     if named:
         return pathlib.Path(named)
     data = os.environ.get("XDG_DATA_HOME", "")
     if not os.path.isabs(data):
         data = os.path.join(os.environ.get("HOME", ""), ".local", "share")
-    return pathlib.Path(data, "praxenhelper", "classes")
+    return pathlib.Path(data, "praxenhelper", "classes") if os.path.isabs(data) else None
 
 
 def _registered_library():
     """The library of the first class of ours in the registry file; None when there is none."""
+    file = _registry_file()
+    # What is no file, such as a pipe, would be waited for.
+    if file is None or not file.is_file():
+        return None
     try:
-        text = _registry_file().read_text("utf-8-sig", "surrogateescape")
+        text = file.read_text("utf-8-sig", "surrogateescape")
     except OSError:
         return None
     for line in text.split("\n"):
         fields = [field.strip(" \r") for field in line.split("\t", 2)]
         is_ours = fields[0].lower().startswith("praxenhelper.")
-        if is_ours and len(fields) == 3 and os.path.isabs(fields[2]):
+        if is_ours and len(fields) == 3 and os.path.isabs(fields[2]) and "\0" not in fields[2]:
             return fields[2]
     return None
 
@@ -76,11 +85,11 @@ def _find_library():
 # Result and argument types of the exported functions.
 _EXPORTS = {
     "DllGetClassObject": (c_int32, POINTER(_abi.Guid), POINTER(_abi.Guid), POINTER(c_void_p)),
-    "GetErrorInfo": (c_int32, c_uint32, POINTER(c_void_p)),
-    "SysAllocStringLen": (c_void_p, c_char_p, c_uint32),
-    "SysFreeString": (None, c_void_p),
-    "SysStringByteLen": (c_uint32, c_void_p),
-    "VariantClear": (c_int32, POINTER(_abi.Variant)),
+    "PraxenGetErrorInfo": (c_int32, c_uint32, POINTER(c_void_p)),
+    "PraxenSysAllocStringLen": (c_void_p, c_char_p, c_uint32),
+    "PraxenSysFreeString": (None, c_void_p),
+    "PraxenSysStringByteLen": (c_uint32, c_void_p),
+    "PraxenVariantClear": (c_int32, POINTER(_abi.Variant)),
     "PraxenClasses": (c_char_p,),
     "PraxenMembers": (c_char_p, c_char_p),
     "PraxenConstants": (c_char_p,),
@@ -94,10 +103,12 @@ def _records(lines):
     return [line.split("\t") for line in lines.decode("ascii").splitlines()]
 
 
-class Library:
+class Library(_abi.Unique):
     """The loaded library; it stays loaded."""
 
     def __init__(self, path):
+        if os.path.exists(path) and not os.path.isfile(path):
+            raise AutomationError(CO_E_DLLNOTFOUND, f"{path} is no regular file")
         try:
             self._module = ctypes.PyDLL(path)
         except OSError as error:
@@ -151,29 +162,31 @@ class Library:
 
     def allocate_text(self, text):
         data = text.encode(UTF_16, "surrogatepass")
-        pointer = self._module.SysAllocStringLen(data, len(data) // 2)
+        if len(data) > _LONGEST_TEXT:
+            raise AutomationError(DISP_E_OVERFLOW, "Overflow")
+        pointer = self._module.PraxenSysAllocStringLen(data, len(data) // 2)
         if pointer is None:
             raise MemoryError
         return pointer
 
     def free_text(self, pointer):
-        self._module.SysFreeString(pointer)
+        self._module.PraxenSysFreeString(pointer)
 
     def take_text(self, pointer):
         """The text, which is freed; None is the empty text."""
         if not pointer:
             return ""
-        data = ctypes.string_at(pointer, self._module.SysStringByteLen(pointer))
-        self._module.SysFreeString(pointer)
+        data = ctypes.string_at(pointer, self._module.PraxenSysStringByteLen(pointer))
+        self._module.PraxenSysFreeString(pointer)
         return data.decode(UTF_16, "surrogatepass")
 
     def clear(self, variant):
-        self._module.VariantClear(variant)
+        self._module.PraxenVariantClear(variant)
 
     def reported_error(self):
         """Source and description of the thread's error information."""
         pointer = c_void_p()
-        if self._module.GetErrorInfo(0, pointer) != 0:
+        if self._module.PraxenGetErrorInfo(0, pointer) != 0:
             return "", ""
         information = _abi.Reference(pointer.value)
         source, description = c_void_p(), c_void_p()

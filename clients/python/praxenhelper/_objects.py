@@ -106,7 +106,7 @@ def _call(owner, member, positional, named):
     return _invoke(owner, identifier, _GET, values, labels, names)
 
 
-class Method:
+class Method(_abi.Unique):
     """A member that takes arguments, of one object."""
 
     __slots__ = ("_owner", "_member")
@@ -123,7 +123,7 @@ class Method:
         return f"<method {self._owner._class.name}.{self._member.name}({parameters})>"
 
 
-class _Elements:
+class _Elements(_abi.Unique):
     """Walks what a list held when the walk began."""
 
     __slots__ = ("_reference",)
@@ -143,7 +143,7 @@ class _Elements:
         return _values.take(library(), element, _wrap)
 
 
-class AutomationObject:
+class AutomationObject(_abi.Unique):
     """An object of the library, which lives as long as it is referred to.
 
     Members are found in any letter case. A list is indexed from 1 with its default member, as
@@ -221,9 +221,6 @@ class AutomationObject:
 
     def __repr__(self):
         return f"<PraxenHelper.{self._class.name} object>"
-
-    def __reduce_ex__(self, protocol):
-        raise TypeError("an automation object can be neither copied nor pickled; use Serialize()")
 
 
 def Dispatch(name):
