@@ -49,7 +49,10 @@ Error ConversionError(const Error& error, const Attribute& attribute, const XmlN
                     u" is expected");
 }
 
-void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& node) {
+// Apart from the walk, which goes as deep as the document and must not need its stack at each
+// level.
+[[gnu::noinline]] void ReadAttribute(Object& object, const Attribute& attribute,
+                                     const XmlNode& node) {
   const XmlAttribute* const found = node.attribute(attribute.xmlName);
   if (found == nullptr) {
     if (attribute.readIfPresent) return;
@@ -63,7 +66,7 @@ void ReadAttribute(Object& object, const Attribute& attribute, const XmlNode& no
 }
 
 // The text of an element as `child` lays it out; the value stays as it is where there is no text.
-void ReadText(Text& value, const Child& child, const XmlNode& node) {
+[[gnu::noinline]] void ReadText(Text& value, const Child& child, const XmlNode& node) {
   const XmlNode holder = child.inner.empty() ? node : node.firstChild();
   if (holder.firstChild()) value = FirstText(holder);
   if (node.recorder() != nullptr) RecordText(value, child, node);

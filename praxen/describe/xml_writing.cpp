@@ -57,21 +57,26 @@ Text EmptyFields(Object& object, const Layout& layout) {
   return name.empty() ? fields : fields + u" " + Quoted(name);
 }
 
-void RequireFields(Object& object, const Layout& layout) {
+// Apart from the walk, which goes as deep as the objects and must not need their stack at each
+// level.
+[[gnu::noinline]] void RequireFields(Object& object, const Layout& layout) {
   for (const std::ptrdiff_t offset : layout.requiredTexts) {
     if (!As<Text>(ValueAt(object, offset)).empty()) continue;
     throw RequiredFieldsEmpty(EmptyFields(object, layout));
   }
 }
 
-// Names the place in the list of an element that cannot be written.
-Error InList(const Error& error, size_t index, const Layout& list) {
-  if (error.detail().empty()) return error;
-  return error.With(error.detail() + u", element " + DecimalText(index + 1) + u" of " +
-                    list.element);
+// Names the place in the list of an element that cannot be written, and goes on with its error.
+[[noreturn, gnu::noinline]] void RethrowInList(const Error& error, size_t index,
+                                               const Layout& list) {
+  constexpr size_t kMostCharacters = 500;
+  if (error.detail().empty() || error.detail().size() > kMostCharacters) throw;
+  throw error.With(error.detail() + u", element " + DecimalText(index + 1) + u" of " +
+                   list.element);
 }
 
-void WriteAttributes(Object& object, const Layout& layout, XMLStringWriter& writer) {
+[[gnu::noinline]] void WriteAttributes(Object& object, const Layout& layout,
+                                       XMLStringWriter& writer) {
   for (const Attribute& attribute : layout.attributes) {
     if (attribute.rule == Rule::ReadOnly) continue;
     const void* const value = ValueOf(attribute, object);
@@ -84,7 +89,7 @@ void WriteAttributes(Object& object, const Layout& layout, XMLStringWriter& writ
 // An element of our own classes is known by its class. Another, which a client made, is asked for
 // its kind: if it claims one of our classes without being of it, it cannot be written; if it claims
 // none, it is left out.
-bool IsOfChosenClass(const Object& element, const Layout& list) {
+[[gnu::noinline]] bool IsOfChosenClass(const Object& element, const Layout& list) {
   const ClassDescription& description = element.description();
   const auto isClass = [&](const Choice& choice) { return &choice.object() == &description; };
   if (std::ranges::any_of(list.elements, isClass)) return true;
@@ -104,7 +109,7 @@ void WriteEach(const std::vector<Ref<Object>>& elements, const Layout& list,
     try {
       element->WriteXML(writer);
     } catch (const Error& error) {
-      throw InList(error, i, list);
+      RethrowInList(error, i, list);
     }
   }
 }
@@ -121,7 +126,7 @@ void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) 
   asksClients ? WriteEach(std::vector(elements), list, writer) : WriteEach(elements, list, writer);
 }
 
-void WriteText(const Child& child, const Text& value, XMLStringWriter& writer) {
+[[gnu::noinline]] void WriteText(const Child& child, const Text& value, XMLStringWriter& writer) {
   if (value.empty() && !child.always) return;
   if (child.kind == ChildKind::Content) return writer.WriteElementValue(value);
   if (child.inner.empty()) {

@@ -1,7 +1,12 @@
 // Objects inside objects of their own class: up to the limit, beyond it, and without end.
+#ifndef _WIN32
+#include <pthread.h>
+#endif
+
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <functional>
 #include <set>
 
 #include "praxen/core/counters.h"
@@ -15,6 +20,9 @@
 
 namespace praxen::detail {
 namespace {
+
+// In bytes, less than which writing and reading to the limit of depth need.
+[[maybe_unused]] constexpr size_t kStack = 256 * 1024;
 
 constexpr const char* kTooDeep =
     "800A001C Nested deeper than 1000 elements; an object may contain itself";
@@ -111,24 +119,59 @@ class Nesting : public testing::TestWithParam<const ClassDescription*> {
   const ClassDescription& class_ = *GetParam();
   const Path path_ = PathToItself(class_);
   const std::string plain_ = Markup(*NewObject(class_));
+  // The depth of an object with one of its class in it, what each further one adds, and how many
+  // there can be.
+  const size_t once_ = DepthOf(Markup(*Nested(class_, path_, 1)));
+  const size_t step_ = DepthOf(Markup(*Nested(class_, path_, 2))) - once_;
+  const size_t most_ = step_ == 0 ? 0 : 1 + (1000 - once_) / step_;
   const int32_t objects_ = ObjectCounter();
 };
 
 TEST_P(Nesting, GoesBothWaysUpToTheLimitAndNotBeyond) {
-  const size_t once = DepthOf(Markup(*Nested(class_, path_, 1)));
-  const size_t step = DepthOf(Markup(*Nested(class_, path_, 2))) - once;
-  ASSERT_GT(step, 0u);
-  const size_t most = 1 + (1000 - once) / step;
-  const std::string markup = Markup(*Nested(class_, path_, most));
-  EXPECT_GT(DepthOf(markup) + step, 1000u);
+  ASSERT_GT(step_, 0u);
+  const std::string markup = Markup(*Nested(class_, path_, most_));
+  EXPECT_GT(DepthOf(markup) + step_, 1000u);
   // What stands in no element of its own is no document.
   if (plain_.starts_with("<" + ToUtf8(class_.layout().element))) {
     EXPECT_EQ(Rewritten(markup, class_.name), markup);
   }
-  EXPECT_EQ(ErrorOfWriting(Nested(class_, path_, most + 1)), kTooDeep);
+  EXPECT_EQ(ErrorOfWriting(Nested(class_, path_, most_ + 1)), kTooDeep);
   EXPECT_EQ(Markup(*NewObject(class_)), plain_);
   EXPECT_EQ(ObjectCounter(), objects_);
 }
+
+#if !defined(_WIN32) && defined(__OPTIMIZE__) && !defined(__SANITIZE_ADDRESS__)
+
+// Runs in a thread that has so much stack.
+void RunWithStack(size_t size, const std::function<void()>& work) {
+  pthread_attr_t attributes;
+  ASSERT_EQ(::pthread_attr_init(&attributes), 0);
+  ASSERT_EQ(::pthread_attr_setstacksize(&attributes, size), 0);
+  pthread_t thread;
+  const auto run = [](void* argument) -> void* {
+    (*static_cast<const std::function<void()>*>(argument))();
+    return nullptr;
+  };
+  ASSERT_EQ(::pthread_create(&thread, &attributes, run,
+                             const_cast<void*>(static_cast<const void*>(&work))),
+            0);
+  ::pthread_join(thread, nullptr);
+  ::pthread_attr_destroy(&attributes);
+}
+
+TEST_P(Nesting, NeedsLittleStack) {
+  const Ref<Object> deepest = Nested(class_, path_, most_);
+  const std::string markup = Markup(*deepest);
+  std::string written, rewritten = markup;
+  const auto write = [&] { written = Markup(*deepest); };
+  const auto rewrite = [&] { rewritten = Rewritten(markup, class_.name); };
+  RunWithStack(kStack, write);
+  if (plain_.starts_with("<" + ToUtf8(class_.layout().element))) RunWithStack(kStack, rewrite);
+  EXPECT_EQ(written, markup);
+  EXPECT_EQ(rewritten, markup);
+}
+
+#endif
 
 TEST_P(Nesting, OfAnyDepthIsRefusedAndReleased) {
   EXPECT_EQ(ErrorOfWriting(Nested(class_, path_, 50'000)), kTooDeep);
