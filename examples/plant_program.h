@@ -8,37 +8,36 @@ namespace plant {
 
 inline praxen::Ref<praxen::Program> LevelControl() {
   const auto program =
-      praxen::ObjectFactory::NewProgram(u"LevelControl", u"Keeps the level of tank T101");
-  program->TaskConnection = u"Fast";
-  program->Variables->Add2(u"Setpoint", u"real", u"coldretain", u"2.5", u"", u"Operate",
-                           u"In metres");
-  program->Variables->Add2(u"Valve", u"real", u"retain", u"0.0", u"", u"",
-                           u"Opening of valve V102 in per cent");
-  program->FunctionBlocks->Add2(u"Controller", u"PidSimple", u"Fast", u"", u"Level controller");
-  program->Signals->Add1(u"LevelHigh", u"TankFarm.LevelControl.High", u"out", 1);
-  program->InitValues->Add1(u"TankFarm.LevelControl.Controller", u"Gain", u"1.2");
-  program->CodeBlocks->AddSTCodeBlock2(u"Control",
-                                       u"Controller(Sp := Setpoint, Pv := LT101.Value);\n"
-                                       u"IF LT101.Value > 4.5 THEN\n"
-                                       u"  Valve := 100.0; (* drain before it overflows *)\n"
-                                       u"ELSE\n"
-                                       u"  Valve := Controller.Out;\n"
-                                       u"END_IF;");
+      praxen::ObjectFactory::NewProgram("LevelControl", "Keeps the level of tank T101");
+  program->TaskConnection = "Fast";
+  program->Variables->Add2("Setpoint", "real", "coldretain", "2.5", "", "Operate", "In metres");
+  program->Variables->Add2("Valve", "real", "retain", "0.0", "", "",
+                           "Opening of valve V102 in per cent");
+  program->FunctionBlocks->Add2("Controller", "PidSimple", "Fast", "", "Level controller");
+  program->Signals->Add1("LevelHigh", "TankFarm.LevelControl.High", "out", 1);
+  program->InitValues->Add1("TankFarm.LevelControl.Controller", "Gain", "1.2");
+  program->CodeBlocks->AddSTCodeBlock2("Control",
+                                       "Controller(Sp := Setpoint, Pv := LT101.Value);\n"
+                                       "IF LT101.Value > 4.5 THEN\n"
+                                       "  Valve := 100.0; (* drain before it overflows *)\n"
+                                       "ELSE\n"
+                                       "  Valve := Controller.Out;\n"
+                                       "END_IF;");
   return program;
 }
 
 inline praxen::Ref<praxen::Diagram> Interlocks() {
   const auto diagram =
-      praxen::ObjectFactory::NewDiagram(u"Interlocks", u"What keeps the pump from running");
-  diagram->TaskConnection = u"Fast";
-  diagram->Variables->Add1(u"Permit", u"bool");
-  diagram->FunctionBlocks->Add1(u"RestartDelay", u"TON");
-  diagram->DiagramInstances->Add1(u"P101_Permit", u"StartPermit");
+      praxen::ObjectFactory::NewDiagram("Interlocks", "What keeps the pump from running");
+  diagram->TaskConnection = "Fast";
+  diagram->Variables->Add1("Permit", "bool");
+  diagram->FunctionBlocks->Add1("RestartDelay", "TON");
+  diagram->DiagramInstances->Add1("P101_Permit", "StartPermit");
   const auto code = praxen::New<praxen::FDCodeBlock>();
-  code->Name = u"Permits";
+  code->Name = "Permits";
   code->FDAsXMLStr =
-      u"<FunctionDiagram><Block Name='And' Type='AND'/>"
-      u"<Wire From='LT101.Status' To='And.In1'/></FunctionDiagram>";
+      "<FunctionDiagram><Block Name='And' Type='AND'/>"
+      "<Wire From='LT101.Status' To='And.In1'/></FunctionDiagram>";
   diagram->CodeBlocks->AddFDCodeBlock(code);
   return diagram;
 }
