@@ -80,8 +80,8 @@ void Broken(std::string_view promise, std::u16string_view text) {
 
 std::span<const uint32_t> ReadingErrors() {
   static const uint32_t numbers[] = {InvalidXml(u"", {}).number(),
-                                     WrongRootElement().number(),
-                                     WrongElementName().number(),
+                                     WrongRootElement({}, {}).number(),
+                                     WrongElementName({}, {}).number(),
                                      MissingObject().number(),
                                      TypeMismatch().number(),
                                      Overflow().number(),
@@ -90,7 +90,7 @@ std::span<const uint32_t> ReadingErrors() {
 }
 
 std::span<const uint32_t> WritingErrors() {
-  static const uint32_t numbers[] = {RequiredFieldsEmpty().number(), MissingObject().number(),
+  static const uint32_t numbers[] = {RequiredFieldsEmpty({}).number(), MissingObject().number(),
                                      NestedTooDeep(kMaxXmlDepth).number(),
                                      InvalidArgument().number()};
   return numbers;
