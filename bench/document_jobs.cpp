@@ -1,7 +1,10 @@
 // Which documents are measured against which peers, and how often.
 #include "bench/document_jobs.h"
 
+#include <array>
+#include <functional>
 #include <stdexcept>
+#include <thread>
 
 #include "bench/documents.h"
 #include "bench/peers.h"
@@ -108,6 +111,30 @@ void AddGrowth(std::vector<Result>& results, const std::string& name,
 
 }  // namespace
 
+// Reads the text twice, one time after the other or both at once.
+Product ReadTwice(const Text& text, bool atOnce) {
+  auto objects = std::make_shared<std::array<Ref<Program>, 2>>();
+  const auto read = [&text](Ref<Program>& object) {
+    object = ObjectFactory::DeserializeProgram(text);
+  };
+  std::jthread other;
+  if (atOnce) {
+    other = std::jthread(read, std::ref((*objects)[1]));
+  } else {
+    read((*objects)[1]);
+  }
+  read((*objects)[0]);
+  return objects;
+}
+
+void AddReadingTwice(std::vector<Job>& jobs) {
+  const Text text = BuildProgram(20'000)->Serialize();
+  for (const bool atOnce : {false, true}) {
+    jobs.push_back({std::string(kReadTwice), std::string(atOnce ? kTwoThreads : kOurs),
+                    2 * text.size(), [text, atOnce] { return ReadTwice(text, atOnce); }});
+  }
+}
+
 // One document after the other, so that none has to find its memory between the objects of others.
 std::vector<Result> MeasureDocuments(int rounds) {
   using AddJobs = void (*)(std::vector<Job>&);
@@ -118,6 +145,7 @@ std::vector<Result> MeasureDocuments(int rounds) {
       [](auto& jobs) { AddDocument(jobs, "messages", BuildMessages(100'000)); },
       [](auto& jobs) { AddDocument(jobs, "constants", BuildConstants(100'000)); },
       [](auto& jobs) { AddReading<Program>(jobs, "small, read", BuildSmallDocuments(10'000)); },
+      &AddReadingTwice,
   };
   std::vector<Result> results;
   for (const AddJobs addJobs : kDocuments) {

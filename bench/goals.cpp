@@ -32,6 +32,8 @@ constexpr Comparison kComparisons[] = {
     {"small, read", "xerces sax2", Goal::Bound::AtMost, 1.5},
 };
 
+constexpr double kLeastByTwoThreads = 1.8;
+
 double PerUnit(const Result& result) { return result.seconds / static_cast<double>(result.amount); }
 
 }  // namespace
@@ -49,6 +51,12 @@ std::vector<Goal> DocumentGoals(const std::vector<Result>& documents) {
                          (isFaster ? " over ours" : ""),
                      isFaster ? peer->seconds / ours->seconds : ours->seconds / peer->seconds,
                      comparison.bound, comparison.wanted});
+  }
+  const Result* const one = Find(documents, kReadTwice, kOurs);
+  const Result* const two = Find(documents, kReadTwice, kTwoThreads);
+  if (one != nullptr && two != nullptr) {
+    goals.push_back({"program, read: documents by two threads over those by one",
+                     one->seconds / two->seconds, Goal::Bound::AtLeast, kLeastByTwoThreads});
   }
   return goals;
 }

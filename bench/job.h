@@ -40,6 +40,10 @@ struct Result {
 /// Our own means, which the others are compared to.
 inline constexpr std::string_view kOurs = "praxen";
 
+/// The task of reading a document twice, and to do so on two threads at once.
+inline constexpr std::string_view kReadTwice = "program, read twice";
+inline constexpr std::string_view kTwoThreads = "two threads";
+
 /// Measures jobs in rounds that are taken in random turn.
 std::vector<Result> Measure(const std::vector<Job>& jobs, int rounds);
 

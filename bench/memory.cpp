@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <mutex>
 
 extern "C" {
 void* __libc_malloc(size_t size);
@@ -16,10 +17,12 @@ void __libc_free(void* memory);
 namespace {
 
 constinit bool counting = false;
+constinit std::mutex mutex;
 constinit praxen::detail::bench::MemoryUse counted;
 
 void* Count(void* memory) {
   if (!counting || memory == nullptr) return memory;
+  const std::lock_guard lock(mutex);
   ++counted.allocations;
   counted.held += static_cast<int64_t>(malloc_usable_size(memory));
   counted.peak = std::max(counted.peak, counted.held);
@@ -28,6 +31,7 @@ void* Count(void* memory) {
 
 void Discount(void* memory) {
   if (counting && memory != nullptr) {
+    const std::lock_guard lock(mutex);
     counted.held -= static_cast<int64_t>(malloc_usable_size(memory));
   }
 }

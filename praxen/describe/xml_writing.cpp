@@ -86,6 +86,9 @@ Text EmptyFields(Object& object, const Layout& layout) {
   }
 }
 
+// Whether answering for its kind may be a client's code.
+bool IsClients(const Ref<Object>& element) { return element && element->description().isKind; }
+
 // An element of our own classes is known by its class. Another, which a client made, is asked for
 // its kind: if it claims one of our classes without being of it, it cannot be written; if it claims
 // none, it is left out.
@@ -99,10 +102,14 @@ Text EmptyFields(Object& object, const Layout& layout) {
   return false;
 }
 
-// A client's own element further down may change the list meanwhile.
-void WriteEach(const std::vector<Ref<Object>>& elements, const Layout& list,
-               XMLStringWriter& writer) {
+// A client's own element may change any list above it while it is asked for its kind; its own list
+// is written as it was before.
+void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) {
   const bool mixed = list.elements.front().isKind != nullptr;
+  const std::vector<Ref<Object>>& held = *object.elements();
+  const bool asksClients = mixed && std::ranges::any_of(held, IsClients);
+  const std::vector<Ref<Object>> kept = asksClients ? held : std::vector<Ref<Object>>();
+  const std::vector<Ref<Object>>& elements = asksClients ? kept : held;
   for (size_t i = 0; i < elements.size(); ++i) {
     const Ref<Object> element = elements[i];
     if (mixed && !IsOfChosenClass(*element, list)) continue;
@@ -112,18 +119,6 @@ void WriteEach(const std::vector<Ref<Object>>& elements, const Layout& list,
       RethrowInList(error, i, list);
     }
   }
-}
-
-// A list that holds clients' own elements, which may change it while they are asked for their kind,
-// is written as it was before.
-void WriteElements(Object& object, const Layout& list, XMLStringWriter& writer) {
-  const std::vector<Ref<Object>>& elements = *object.elements();
-  const auto isClients = [](const Ref<Object>& element) {
-    return element && element->description().isKind;
-  };
-  const bool mixed = list.elements.front().isKind != nullptr;
-  const bool asksClients = mixed && std::ranges::any_of(elements, isClients);
-  asksClients ? WriteEach(std::vector(elements), list, writer) : WriteEach(elements, list, writer);
 }
 
 [[gnu::noinline]] void WriteText(const Child& child, const Text& value, XMLStringWriter& writer) {

@@ -52,11 +52,11 @@ class XMLStringWriter {
   template <bool Attribute>
   void WriteEscaped(std::u16string_view value);
 
-  const Counting counting_;
   CStringBuilder buffer_;
   bool start_tag_open_ = false;
   bool element_empty_ = false;
   uint32_t depth_ = 0;
+  const Counting counting_;
 };
 
 /// The writer of one document: the thread's own, which keeps its buffer for the next one, and for a

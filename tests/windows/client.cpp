@@ -7,8 +7,10 @@
 
 #include "PraxenHelper.h"
 
+#include <atomic>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "praxen/automation/values.h"
 
@@ -16,8 +18,9 @@ namespace {
 
 using praxen::BStr;
 using praxen::ComPointer;
+using praxen::Variant;
 
-int failures = 0;
+std::atomic<int> failures = 0;
 
 void Check(const char* what, bool holds) {
   if (holds) return;
@@ -138,6 +141,85 @@ bool Activate(const std::wstring& manifest) {
   return handle != INVALID_HANDLE_VALUE && ActivateActCtx(handle, &cookie);
 }
 
+// Calls by name, as through the border of an apartment; the arguments are given last one first.
+Variant Call(IDispatch* object, const wchar_t* name, WORD flags, std::vector<Variant> arguments) {
+  Variant result;
+  LPOLESTR names = const_cast<LPOLESTR>(name);
+  DISPID id = DISPID_UNKNOWN;
+  DISPID put = DISPID_PROPERTYPUT;
+  const bool puts = flags == DISPATCH_PROPERTYPUT;
+  DISPPARAMS parameters = {arguments.data(), puts ? &put : nullptr,
+                           static_cast<UINT>(arguments.size()), puts ? 1u : 0u};
+  const bool done = object != nullptr &&
+                    object->GetIDsOfNames(IID_NULL, &names, 1, 0, &id) == S_OK &&
+                    object->Invoke(id, IID_NULL, 0, flags, &parameters, puts ? nullptr : &result,
+                                   nullptr, nullptr) == S_OK;
+  Check("call by name", done);
+  return result;
+}
+
+IDispatch* ObjectIn(const Variant& value) {
+  return value.vt == VT_DISPATCH ? value.pdispVal : nullptr;
+}
+
+// Writes a program with variables, reads it, and returns what the copy writes.
+std::u16string WriteAndRead(const std::u16string& name) {
+  constexpr int kVariables = 20;
+  const auto program = Create<IDispatch>(CLSID_Program);
+  Call(program.Get(), L"Name", DISPATCH_PROPERTYPUT, {Variant(name)});
+  const Variant list = Call(program.Get(), L"Variables", DISPATCH_PROPERTYGET, {});
+  for (int i = 0; i < kVariables; ++i) {
+    Call(ObjectIn(list), L"Add1", DISPATCH_METHOD, {Variant(u"real"), Variant(name)});
+  }
+  const Variant document = Call(program.Get(), L"Serialize", DISPATCH_METHOD, {});
+  const auto factory = Create<IDispatch>(CLSID_ObjectFactory);
+  const Variant copy =
+      Call(factory.Get(), L"DeserializeProgram", DISPATCH_METHOD, {Variant(document.View())});
+  const Variant again = Call(ObjectIn(copy), L"Serialize", DISPATCH_METHOD, {});
+  Check("copy by name", again.View() == document.View());
+  return std::u16string(again.View());
+}
+
+struct ThreadUse {
+  DWORD apartment;
+  std::u16string name;
+  std::u16string expected;
+  std::wstring manifest;
+};
+
+DWORD WINAPI UseOnThread(void* argument) {
+  constexpr int kRounds = 100;
+  const auto& use = *static_cast<const ThreadUse*>(argument);
+  Check("apartment", SUCCEEDED(CoInitializeEx(nullptr, use.apartment)));
+  if (!use.manifest.empty()) Check("manifest of a thread", Activate(use.manifest));
+  for (int round = 0; round < kRounds && failures == 0; ++round) {
+    Check("document of a thread", WriteAndRead(use.name) == use.expected);
+  }
+  CoUninitialize();
+  return 0;
+}
+
+// Two threads with apartments of their own, and two that share one and whose calls the system sends
+// to where the objects are.
+void UseThreads(const std::wstring& manifest) {
+  std::vector<ThreadUse> uses;
+  for (const DWORD apartment : {COINIT_APARTMENTTHREADED, COINIT_MULTITHREADED}) {
+    for (const char16_t* const name : {u"First", u"TheSecond"}) {
+      uses.push_back({apartment, name, WriteAndRead(name), manifest});
+    }
+  }
+  std::vector<HANDLE> threads;
+  for (ThreadUse& use : uses) {
+    threads.push_back(CreateThread(nullptr, 0, &UseOnThread, &use, 0, nullptr));
+  }
+  for (HANDLE& thread : threads) {
+    // This thread's apartment may be called meanwhile.
+    DWORD index = 0;
+    Check("end of a thread", CoWaitForMultipleHandles(0, INFINITE, 1, &thread, &index) == S_OK);
+    CloseHandle(thread);
+  }
+}
+
 }  // namespace
 
 int wmain(int count, wchar_t** arguments) {
@@ -149,6 +231,7 @@ int wmain(int count, wchar_t** arguments) {
     UseErrors();
     UseTypeInformation();
     UseRefusals();
+    UseThreads(count > 1 ? arguments[1] : L"");
   }
   CoFreeUnusedLibraries();
   CoUninitialize();
