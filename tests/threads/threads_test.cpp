@@ -67,30 +67,34 @@ class Threads : public testing::Test {
   const bool canUnload_ = CanUnload();
 };
 
+// The first test, so that the threads meet in what is made when it is first used as well.
 TEST_F(Threads, BuildWriteReadAndFailAtOnce) {
-  std::vector<Text> expected;
-  for (const ClassDescription* const each : DocumentClasses()) {
-    expected.push_back(WrittenExample(*each));
-  }
+  std::vector<std::vector<Text>> written(kThreads);
   OnThreads(kThreads, [&](int number) {
-    for (size_t i = 0; i < expected.size(); ++i) {
-      // Every thread with another class at the same time.
-      const size_t at = (i + static_cast<size_t>(number)) % expected.size();
-      const Text document = WrittenExample(*DocumentClasses()[at]);
-      EXPECT_EQ(document, expected[at]);
-      const Ref<Object> read = ReadDocument(document);
-      EXPECT_EQ(client::GetText(HandleOf(*read), u"Serialize"), expected[at]);
+    const auto& classes = DocumentClasses();
+    std::vector<Text>& documents = written[static_cast<size_t>(number)];
+    documents.resize(classes.size());
+    for (size_t i = 0; i < classes.size(); ++i) {
+      // Every thread has another class at the same time.
+      const size_t at = (i + static_cast<size_t>(number)) % classes.size();
+      documents[at] = WrittenExample(*classes[at]);
+      const Ref<Object> read = ReadDocument(documents[at]);
+      EXPECT_EQ(documents[at], client::GetText(HandleOf(*read), u"Serialize"));
 
       // The error that is told is the thread's own.
       const client::Handle variable = client::Create("Variable");
-      const bool isName = (i + static_cast<size_t>(number)) % 2 == 0;
-      const client::Outcome failed = isName
+      const bool writes = (i + static_cast<size_t>(number)) % 2 == 0;
+      const client::Outcome failed = writes
                                          ? client::Call(variable, u"Serialize")
                                          : client::Put(variable, u"Name", client::OfType(VT_NULL));
-      EXPECT_EQ(failed.reported, isName ? u"Required fields empty" : u"Type mismatch");
+      EXPECT_EQ(failed.reported, writes ? u"Required fields empty" : u"Type mismatch");
       EXPECT_EQ(ErrorOf([] { ReadDocument(u"<Nobody/>"); }).substr(0, 3), "604");
     }
   });
+  for (size_t at = 0; at < DocumentClasses().size(); ++at) {
+    const Text expected = WrittenExample(*DocumentClasses()[at]);
+    for (const std::vector<Text>& documents : written) EXPECT_EQ(documents[at], expected);
+  }
 }
 
 TEST_F(Threads, SeeOneCounterAndOneSetting) {

@@ -12,8 +12,7 @@ round, but for its import. The library is the one that the environment variable 
 names, otherwise the registered one ("praxen register"), otherwise one that lies in this folder or
 where the system looks for libraries.
 
-The library is used by one thread at a time: calls hold Python's global lock, so threads may take
-turns with an object, and gain nothing by it.
+Calls hold Python's global lock, so threads may take turns with an object, and gain nothing by it.
 """
 
 import sys

@@ -85,7 +85,7 @@ class ExceptionInformation(ctypes.Structure):
 def _slot(index, *argument_types, result=c_int32):
     """A function that calls the entry `index` of the table of the interface given first.
 
-    The calls keep Python's global lock, since the library serves one thread at a time. The function
+    The calls keep Python's global lock, since an object is used by one thread at a time. The function
     holds all it needs, because references are released until the very end of the interpreter.
     """
     prototype = ctypes.PYFUNCTYPE(result, c_void_p, *argument_types)
