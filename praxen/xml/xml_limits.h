@@ -32,6 +32,11 @@ inline constexpr size_t kMaxXmlNameLength = 100'000;
 /// The length of an attribute value, as written, in UTF-16 units.
 inline constexpr size_t kMaxXmlAttributeLength = 10'000'000;
 
+/// How many characters of namespace declarations may be added to pieces of a document that are
+/// taken out of it, together: so many, and so many for each character of the document.
+inline constexpr size_t kMaxXmlAddedDeclarations = 1'000'000;
+inline constexpr size_t kMaxXmlAddedDeclarationsPerCharacter = 10;
+
 /// The length of a document in UTF-16 units.
 inline constexpr size_t kMaxXmlDocumentLength = 500'000'000;
 

@@ -32,6 +32,7 @@ void XmlTree::Clear(std::u16string_view source) {
   if (text_.capacity() > kKeptCharacters) text_.shrink_to_fit();
   extents_ = {};
   recorder_ = nullptr;
+  addedDeclarations_ = 0;
 }
 
 std::u16string_view XmlTree::Copy(std::u16string_view characters) {

@@ -129,7 +129,8 @@ class XmlTree {
   }
   /// The node as markup that can be read by itself: an element is its piece of the source with the
   /// namespace declarations added that it takes from outside. The default namespace is added only
-  /// where it is not the schema's.
+  /// where it is not the schema's. Raises `Overflow` when the declarations of all calls exceed the
+  /// limit together.
   std::u16string Markup(uint32_t node) const;
   /// The place of the node's first character.
   Place place(uint32_t node) const;
@@ -180,6 +181,7 @@ class XmlTree {
   /// Found when first asked for, since most documents are read without.
   mutable std::vector<Extent> extents_;
   LossRecorder* recorder_ = nullptr;
+  mutable size_t addedDeclarations_ = 0;
 };
 
 }  // namespace praxen::detail

@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "praxen/core/error.h"
 #include "praxen/xml/xml_escape.h"
+#include "praxen/xml/xml_limits.h"
 #include "praxen/xml/xml_markup.h"
 #include "praxen/xml/xml_tree.h"
 
@@ -84,8 +86,14 @@ std::u16string XmlTree::Markup(uint32_t node) const {
       break;
   }
   const Extent& extent = extents()[node];
+  const std::u16string declarations = MissingDeclarations(node);
+  addedDeclarations_ += declarations.size();
+  constexpr size_t kPerCharacter = kMaxXmlAddedDeclarationsPerCharacter;
+  if (addedDeclarations_ > kMaxXmlAddedDeclarations + kPerCharacter * source_.size()) {
+    throw Overflow().At(place(node));
+  }
   std::u16string slice(source_.substr(extent.begin, extent.end - extent.begin));
-  return slice.insert(1 + found.name->size(), MissingDeclarations(node));
+  return slice.insert(1 + found.name->size(), declarations);
 }
 
 Place XmlTree::place(uint32_t node) const { return PlaceAt(source_, extents()[node].begin); }

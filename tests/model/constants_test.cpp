@@ -161,6 +161,25 @@ TEST(ProjectConstants, KeepTheirPlacesOnALargeLevel) {
   EXPECT_EQ(Markup(*list), "<ProjectConstants>" + Group("G", members) + "</ProjectConstants>");
 }
 
+// Constants of short names in a group of a long one: as many as can be written can be read.
+TEST(ProjectConstants, LimitTheirNamesTogether) {
+  const std::string group(100'000, 'g');
+  for (const size_t count : {20, 21}) {
+    const auto list = New<ProjectConstants>();
+    std::string members;
+    for (size_t i = 0; i < count; ++i) {
+      const std::string name = "c" + std::to_string(i);
+      members += Leaf(name, "1");
+      list->Add(ObjectFactory::NewProjectConstant(FromUtf8(group + "." + name), u"dint", u"1"));
+    }
+    const std::string document =
+        "<ProjectConstants>" + Group(group, members) + "</ProjectConstants>";
+    const bool isAllowed = count == 20;
+    EXPECT_EQ(ErrorOf([&] { list->Serialize(); }), isAllowed ? "none" : "8002000A Overflow");
+    EXPECT_EQ(Rewritten(document), isAllowed ? document : "8002000A Overflow");
+  }
+}
+
 TEST(ProjectConstants, NeedTypeAndValueWhenRead) {
   for (const char* const child : {"", "<Type>dint</Type>", "<Type/><Value>1</Value>",
                                   "<Type>dint</Type><Value/>", "<ProjectConstants/>"}) {

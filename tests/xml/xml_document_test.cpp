@@ -1,6 +1,5 @@
 // Tests of the XML document: trees, reasons, markup, and what hostile texts meet.
 #include "praxen/xml/xml_document.h"
-#include "praxen/core/numbers.h"
 
 #include <gtest/gtest.h>
 
@@ -13,6 +12,8 @@
 #include <vector>
 #include <xercesc/util/XMLString.hpp>
 
+#include "praxen/core/error.h"
+#include "praxen/core/numbers.h"
 #include "praxen/xml/xml_limits.h"
 
 namespace praxen::detail {
@@ -592,6 +593,21 @@ TEST(XmlNode, ChildrenByIndexAndPositions) {
   EXPECT_EQ(root.childNode(2).firstChild().place(), (Place{3, 4}));
   EXPECT_EQ(root.childNode(5).firstChild().place(), (Place{4, 11}));
   EXPECT_EQ(root.place(), (Place{1, 11}));
+}
+
+TEST(XmlNode, LimitsTheDeclarationsAddedToMarkup) {
+  XmlDocument document(TestSchema);
+  ASSERT_TRUE(document.LoadXML(u"<a xmlns:p='" + Repeated(u"u", 100'000) + u"'>" +
+                               Repeated(u"<b p:c=''/>", 50) + u"</a>"));
+  size_t taken = 0;
+  const auto takeAll = [&] {
+    XmlNode node = document.documentElement().firstChild();
+    for (; node; node = node.nextSibling(), ++taken) node.Markup();
+  };
+  EXPECT_THROW(takeAll(), Error);
+  EXPECT_EQ(taken, 20u);
+  ASSERT_TRUE(document.LoadXML(kGood));
+  EXPECT_FALSE(document.documentElement().Markup().empty());
 }
 
 // The markup of the first child of the root.

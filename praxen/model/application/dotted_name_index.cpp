@@ -1,11 +1,18 @@
 // The tree of the segments of dotted names.
 #include "praxen/model/application/dotted_name_index.h"
 
+#include <functional>
 #include <vector>
 
+#include "praxen/core/seeded_hash.h"
 #include "praxen/core/text_functions.h"
 
 namespace praxen::detail {
+
+size_t NameSegmentHash::operator()(const NameSegment& segment) const noexcept {
+  const size_t level = std::hash<const void*>()(segment.level);
+  return SeededHash(segment.name) ^ (level * 0x9E3779B97F4A7C15u);
+}
 
 void DottedNameIndex::Add(const Text& name) {
   Node* node = &root_;

@@ -19,15 +19,12 @@ struct NameSegment {
 };
 
 struct NameSegmentHash {
-  size_t operator()(const NameSegment& segment) const noexcept {
-    const size_t name = std::hash<std::u16string_view>()(segment.name);
-    return name ^ (std::hash<const void*>()(segment.level) * 0x9E3779B97F4A7C15u);
-  }
+  size_t operator()(const NameSegment& segment) const noexcept;
 };
 
 /// The dotted names of a list, each as often as it stands there, as a tree of their segments. Every
-/// operation takes time in proportion to the length of the name. A dot at the end of a name counts
-/// for nothing, and the empty name has no segment.
+/// operation takes time in proportion to the length of the name, whatever the names. A dot at the
+/// end of a name counts for nothing, and the empty name has no segment.
 class DottedNameIndex {
  public:
   void Add(const Text& name);

@@ -1,9 +1,8 @@
 // Building, writing and reading of the tree of project constants.
 #include "praxen/model/application/project_constant_tree.h"
 
-#include <functional>
-
 #include "praxen/core/error.h"
+#include "praxen/core/seeded_hash.h"
 #include "praxen/core/text_functions.h"
 #include "praxen/describe/xml_reading.h"
 #include "praxen/xml/loss_recorder.h"
@@ -47,13 +46,13 @@ intProjectConstant* Find(intProjectConstant& level, std::u16string_view name) {
 
 void EntryTable::Add(intProjectConstant& entry) {
   if (2 * (count_ + 1) > slots_.size()) Grow();
-  const size_t hash = std::hash<std::u16string_view>()(entry.Name);
+  const size_t hash = SeededHash(entry.Name);
   FreeSlot(hash) = {hash, &entry};
   ++count_;
 }
 
 intProjectConstant* EntryTable::Find(std::u16string_view name) const noexcept {
-  const size_t hash = std::hash<std::u16string_view>()(name);
+  const size_t hash = SeededHash(name);
   for (size_t at = hash;; ++at) {
     const Slot& slot = slots_[at & (slots_.size() - 1)];
     if (slot.entry == nullptr || (slot.hash == hash && slot.entry->Name == name)) return slot.entry;
@@ -127,19 +126,24 @@ void intProjectConstants::Write(XMLStringWriter& writer, const ProjectConstants&
     AddRecursive(root, constant.Name.get(), constant.PCType, constant.Value);
   }
   const intProjectConstant* entry = &root;
+  size_t groups = 0;  // The length of their names, with dots.
   while (entry != nullptr) {
+    CountElement(entry->Name);
     writer.WriteStartElement(kEntry);
     writer.WriteAttributeString(u"Name", entry->Name);
     if (entry->SubLevel != nullptr) {
       writer.WriteStartElement(kGroup);
+      groups += entry->Name.size() + 1;
       entry = entry->SubLevel;
       continue;
     }
+    if (!AllowsName(groups + entry->Name.size())) throw Overflow();
     writer.WriteElementString(u"Type", entry->Type);
     writer.WriteElementString(u"Value", entry->Value);
     writer.WriteEndElement(kEntry);
     while (entry->nextSibling == nullptr && entry->group != nullptr) {
       entry = entry->group;
+      groups -= entry->Name.size() + 1;
       writer.WriteEndElement(kGroup);
       writer.WriteEndElement(kEntry);
     }
@@ -147,22 +151,24 @@ void intProjectConstants::Write(XMLStringWriter& writer, const ProjectConstants&
   }
 }
 
-void intProjectConstants::Read(XmlNode first, ProjectConstants& list) {
-  ReadLevel(first, list, {});
-}
+void intProjectConstants::Read(XmlNode first, ProjectConstants& list) { ReadLevel(first, list); }
 
-void intProjectConstants::ReadLevel(XmlNode node, ProjectConstants& list, const Text& prefix) {
-  const Text path = prefix.empty() ? prefix : prefix + u".";
+void intProjectConstants::ReadLevel(XmlNode node, ProjectConstants& list) {
   for (; node; node = node.nextSibling()) {
-    const Text name = path + RequiredAttribute(node, u"Name");
-    name_characters_ += name.size();
-    if (name_characters_ > kMostNameCharacters) throw Overflow().At(node.place());
+    const std::u16string_view name = RequiredAttribute(node, u"Name");
+    CountElement(name);
     const XmlNode child = node.firstChild();
-    if (node.recorder() != nullptr) RecordEntry(node, name);
+    if (node.recorder() != nullptr) RecordEntry(node, Text(groups_) + name);
     if (child.nodeName() == kGroup) {
-      ReadLevel(child.firstChild(), list, name);
+      const size_t outer = groups_.size();
+      groups_ += name;
+      // A group without a name adds nothing to the first level.
+      if (!groups_.empty()) groups_ += u'.';
+      ReadLevel(child.firstChild(), list);
+      groups_.resize(outer);
     } else {
-      ReadConstant(name, node, list);
+      if (!AllowsName(groups_.size() + name.size())) throw Overflow().At(node.place());
+      ReadConstant(groups_.empty() ? Text(name) : Text(groups_) + name, node, list);
     }
   }
 }
@@ -189,6 +195,15 @@ void intProjectConstants::RecordEntry(const XmlNode& node, const Text& name) {
         u"'" + name + u"' is the name or the group of another constant, which is written");
   }
   recorded_.Add(name);
+}
+
+void intProjectConstants::CountElement(std::u16string_view name) {
+  allowedCharacters_ += kNameCharactersOfElement + kNameCharactersPerCharacter * name.size();
+}
+
+bool intProjectConstants::AllowsName(size_t size) {
+  nameCharacters_ += size;
+  return nameCharacters_ <= allowedCharacters_;
 }
 
 void intProjectConstants::ReadConstant(const Text& name, const XmlNode& node,

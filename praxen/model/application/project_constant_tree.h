@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <deque>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -77,28 +78,40 @@ class intProjectConstants {
 
   /// Writes the elements of the top level; nothing for an empty list. Of several constants of one
   /// name only the first is written, and of one whose name is also a group only the group. Raises
-  /// `NestedTooDeep` beyond `kMaxXmlDepth` elements. The list does not change meanwhile.
+  /// `NestedTooDeep` beyond `kMaxXmlDepth` elements, and `Overflow` as `Read` does. The list does
+  /// not change meanwhile.
   void Write(XMLStringWriter& writer, const ProjectConstants& list);
-  /// Appends the constants of the elements from `first` on, depth first. Raises `Overflow` when
-  /// their dotted names have more than `kMostNameCharacters` characters together.
+  /// Appends the constants of the elements from `first` on, depth first. Raises `Overflow` when, up
+  /// to any of them, their dotted names have together more characters than is allowed for so many
+  /// elements: short names in groups of long names would take any multiple of the document.
   void Read(XmlNode first, ProjectConstants& list);
 
-  /// Bounds what a document of short names in groups of long names takes.
-  static constexpr size_t kMostNameCharacters = size_t{1} << 28;
+  /// The characters that dotted names may have together: so many, so many for each constant and
+  /// group, and so many for each character of the element's own name.
+  static constexpr size_t kNameCharacters = 1'000'000;
+  static constexpr size_t kNameCharactersOfElement = 1'000;
+  static constexpr size_t kNameCharactersPerCharacter = 10;
 
  private:
   intProjectConstant& NewLevel(intProjectConstant* group);
   intProjectConstant& NewEntry(intProjectConstant& level, std::u16string_view name);
   void AddRecursive(intProjectConstant& level, std::u16string_view name, std::u16string_view type,
                     std::u16string_view value);
-  void ReadLevel(XmlNode node, ProjectConstants& list, const Text& prefix);
+  void ReadLevel(XmlNode node, ProjectConstants& list);
   void RecordEntry(const XmlNode& node, const Text& name);
   void ReadConstant(const Text& name, const XmlNode& node, ProjectConstants& list);
 
+  void CountElement(std::u16string_view name);
+  /// Adds a dotted name of so many characters; false when that is more than is allowed.
+  bool AllowsName(size_t size);
+
   std::deque<intProjectConstant> entries_;
-  size_t name_characters_ = 0;
   /// The names of the constants read, while their reading is recorded.
   DottedNameIndex recorded_;
+  /// The names of the groups around what is read, each with its dot.
+  std::u16string groups_;
+  size_t nameCharacters_ = 0;
+  size_t allowedCharacters_ = kNameCharacters;
 };
 
 }  // namespace praxen::detail

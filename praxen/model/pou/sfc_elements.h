@@ -55,6 +55,9 @@ class SFCBranching : public Described<Class, ISFCElement> {
  public:
   using T = SFCBranching;
 
+  /// How many branches one call creates at most.
+  static constexpr int32_t kMostBranches = 1'000'000;
+
   Ref<praxen::SFCBranches> SFCBranches = New<praxen::SFCBranches>();
 
   static describe::Members members() {
@@ -66,12 +69,14 @@ class SFCBranching : public Described<Class, ISFCElement> {
     return {.children = {items<&T::SFCBranches>()}};
   }
 
-  /// Creates the element with a number of empty branches, none when the number is below 1.
+  /// Creates the element with a number of empty branches, none when the number is below 1; raises
+  /// `Overflow` when it is above `kMostBranches`.
   struct Form {
     using Created = Class;
     static constexpr uint32_t kByReference = 0;
 
     Ref<Class> operator()(int32_t NrOfBranches) const {
+      if (NrOfBranches > kMostBranches) throw Overflow();
       const Ref<Class> object = New<Class>();
       for (int32_t i = 0; i < NrOfBranches; ++i) object->SFCBranches->AddBranch();
       return object;
