@@ -172,7 +172,7 @@ TEST_F(CommandLine, ABadFileDoesNotKeepTheOthersFromBeingChecked) {
       Run("check " + Quoted(File("missing")) + ' ' + Quoted(File("")) + ' ' + Quoted(File("task")));
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.err, File("missing") + ": error: No such file or directory\n" + File("") +
-                             ": error: Is a directory\n");
+                             ": error: no file in this folder is named *.xml\n");
   EXPECT_TRUE(outcome.out.starts_with(File("task") + ": ok (Task, 1 object, ")) << outcome.out;
 }
 
@@ -258,6 +258,13 @@ TEST_F(CommandLine, MessagesArePrintedAsACompilerPrintsThem) {
       {"", start + "NoOfErrors='0' NoOfWarnings='0'/>", "no errors, no warnings\n", 0},
       {"", start + "NoOfErrors='2' NoOfWarnings='0'/>",
        "no errors, no warnings; the list itself counts 2 errors\n", 1},
+      {"--json --sort ",
+       start + "NoOfErrors='0' NoOfWarnings='1'><Find Message='f'/><Error ErrorNo='9' Message='c'/>"
+               "</MessageBucket>",
+       R"({"NoOfErrors":0,"NoOfWarnings":1,"messages":[{"kind":"error","number":9,"message":"c"},)"
+       R"({"kind":"find","message":"f"}]})"
+       "\n",
+       1},
       {"", "<Task/>", "", 1},
   };
   for (const auto& given : cases) {
@@ -271,21 +278,177 @@ TEST_F(CommandLine, WrongUseIsToldFromBadDocuments) {
   const struct {
     std::string arguments;
     int exitCode;
-  } cases[] = {{"", 2},
-               {"sample", 2},
-               {"sample pump", 2},
-               {"check", 2},
-               {"grow", 2},
-               {"show --all -", 2},
-               {"show --json --depth 1 -", 2},
-               {"--help", 0},
-               {"--version", 0},
-               {"sample task -o /no/such/folder/file", 1}};
+    std::string says;
+  } cases[] = {
+      {"", 2, "required"},
+      {"sample", 2, "required"},
+      {"sample pump", 2, "program"},
+      {"check", 2, "FILE is required"},
+      {"grow", 2, "praxen: error: there is no command \"grow\"; did you mean \"show\"?\n"},
+      {"chek -", 2, "did you mean \"check\"?"},
+      {"help shw", 2, "there is no command \"shw\"; did you mean \"show\"?"},
+      {"check --lossi -", 2, "there is no option \"--lossi\"; did you mean \"--lossy\"?"},
+      {"check -x -", 2, "there is no option \"-x\""},
+      {"check -j4 --jobs=0 -", 2, "--jobs"},
+      {"check 'a\x1b[31m' ", 1, "a\xEF\xBF\xBD[31m: error: No such file"},
+      {"check 'a\xE2\x80\xAE' ", 1, "a\\u202E: error: No such file"},
+      {"'\x1b'", 2, "\"\xEF\xBF\xBD\""},
+      {"check /dev/zero", 1, "too long; at most 500000000 characters are allowed"},
+      {"show --all -", 2, "--json"},
+      {"show --json --depth 1 -", 2, "--depth"},
+      {"--help", 0, "convert"},
+      {"help", 0, "convert"},
+      {"--version", 0, "praxen "},
+      {"sample task -o /no/such/folder/file", 1, "there is no folder \"/no/such/folder\""}};
   for (const auto& given : cases) {
     const Outcome outcome = Run(given.arguments);
     EXPECT_EQ(outcome.exitCode, given.exitCode) << given.arguments;
-    EXPECT_NE(outcome.out + outcome.err, "") << given.arguments;
+    EXPECT_NE((outcome.out + outcome.err).find(given.says), std::string::npos)
+        << given.arguments << ": " << outcome.out << outcome.err;
+    EXPECT_EQ((outcome.out + outcome.err).find('\x1b'), std::string::npos) << given.arguments;
   }
+}
+
+TEST_F(CommandLine, EveryCommandTellsItsExitCodesAndAnExample) {
+  for (const std::string command :
+       {"sample", "check", "convert", "show", "messages", "register", "unregister", "help"}) {
+    const Outcome outcome = Run(command + " --help");
+    for (const std::string& part :
+         {"Usage: praxen " + command, std::string("Exit code: 0"), "  praxen " + command}) {
+      EXPECT_NE(outcome.out.find(part), std::string::npos) << part << " in " << outcome.out;
+    }
+    EXPECT_EQ(Run("help " + command).out, outcome.out);
+  }
+}
+
+TEST_F(CommandLine, AFolderStandsForTheDocumentsInIt) {
+  const std::string task = Run("sample task --encoding utf-8").out;
+  std::filesystem::create_directories(File("d/inner"));
+  std::string expected;
+  for (const std::string name : {"d/a.xml", "d/b.XML", "d/inner/z.xml", "d/n.xml"}) {
+    WriteFile(File(name), name == "d/n.xml" ? "<Odd/>" : task);
+    if (name != "d/n.xml") {
+      expected +=
+          File(name) + ": ok (Task, 1 object, " + std::to_string(task.size()) + " characters)\n";
+    }
+  }
+  WriteFile(File("d/other.txt"), "");
+  for (const std::string jobs : {"-j 1 ", "-j 3 "}) {
+    const Outcome outcome = Run("check " + jobs + Quoted(File("d")));
+    EXPECT_EQ(outcome.out, expected);
+    EXPECT_TRUE(outcome.err.starts_with(File("d/n.xml") + ":1:1: error: Wrong root element"))
+        << outcome.err;
+  }
+}
+
+TEST_F(CommandLine, WhatIsNotReadIsTold) {
+  const std::string type = "<DataType xmlns='PraxenSchema3_0' Name='d'";
+  const std::string unit =
+      "<HWUnit xmlns='PraxenSchema3_0' Path='0' TypeID='' TypeDescription=''>\n<!-- c -->"
+      "<HWChannels/>\n<Odd/></HWUnit>";
+  const std::string sentence =
+      "'HWChannels' and what follows it was not read; a comment stands before it";
+  const std::string lost =
+      "-:2:11: warning: " + sentence + "\n  2 | <!-- c --><HWChannels/>\n    |           ^\n";
+  const std::string notes = "-: warning: comments and processing instructions are left out (1)\n";
+  const std::string refused =
+      "-: error: not converted, since something would be lost; --lossy converts it\n";
+  const std::string declaration = "<?xml version='1.0' encoding='UTF-8'?>\r\n";
+  const std::string written = declaration + type;
+  const auto ok = [](const std::string& element, const std::string& document) {
+    return "-: ok (" + element + ", 1 object, " + std::to_string(document.size()) +
+           " characters)\n";
+  };
+  const std::string noted =
+      "<Task xmlns='PraxenSchema3_0' Name='t' IntervalTime='1' Priority='1' Offset='0' "
+      "OutputUpdate='last' LatencySupervision='0' LatencyPercentage='1' TaskSILLevel='NonSIL'>"
+      "<!-- c --></Task>";
+  const std::string utf16 = "<?xml version='1.0' encoding='UTF-16'?>" + type + "/>";
+  const std::string started = R"({"file":"-","ok":false,)";
+  const std::string two = type + " Protected='x' Hidden='\xE2\x80\xAE'/>";
+  const struct {
+    std::string arguments, bytes, out, err;
+    int exitCode;
+  } cases[] = {
+      {"check", unit, "", lost, 1},
+      {"check --lossy", unit, ok("HWUnit", unit), lost, 0},
+      {"check --json", unit,
+       started + R"("element":"HWUnit","objects":1,"characters":)" + std::to_string(unit.size()) +
+           R"(,"findings":[{"severity":"warning","line":2,"column":11,"message":")" + sentence +
+           "\"}]}\n",
+       "", 1},
+      {"check --json", "<Odd/>",
+       started + R"("findings":[{"severity":"error","line":1,"column":1,"message":)"
+                 R"("Wrong root element: 'Odd' is no document of the exchange format"}]})"
+                 "\n",
+       "", 1},
+      {"check", two, "",
+       "-:1:44: warning: 'Protected' is 'x', which was read as '0'\n  1 | " + type +
+           " Protected='x' Hidden='\\u202E'/>\n    | " + std::string(43, ' ') +
+           "^\n-:1:58: warning: 'Hidden' is '\\u202E', which was read as '0'\n  1 | " + type +
+           " Protected='x' Hidden='\\u202E'/>\n    | " + std::string(57, ' ') + "^\n",
+       1},
+      {"check", noted, ok("Task", noted), "", 0},
+      {"check", utf16, ok("DataType", utf16),
+       "-:1:31: warning: the document declares UTF-16 but is in UTF-8\n"
+       "  1 | " +
+           utf16 + "\n    |" + std::string(31, ' ') + "^\n",
+       0},
+      {"show", unit, "HWUnit 0\n",
+       "-: warning: not all of the document was read (1 loss; see praxen check)\n", 0},
+      {"convert", unit, "", lost + notes + refused, 1},
+      {"convert --lossy", unit,
+       declaration + "<HWUnit xmlns='PraxenSchema3_0' Path='0' TypeID='' TypeDescription=''>\r\n"
+                     "<HWUnits />\r\n</HWUnit>\r\n",
+       lost + notes, 0},
+      {"convert", noted, "", notes + refused, 1},
+      {"convert", type + " Hidden='true'></DataType>", written + " Hidden='1' />\r\n", "", 0},
+      {"convert",
+       "<Variable xmlns='PraxenSchema3_0' Name='s' Type='t' Attribute=''\n TypeGuid='g'/>", "",
+       "-:2:2: warning: 'TypeGuid' is only read; writing leaves it out\n"
+       "  2 |  TypeGuid='g'/>\n    |  ^\n" +
+           refused,
+       1},
+      {"convert --encoding utf-8 -o -", "<?xml version='1.0' encoding='utf-16'?>" + type + "/>",
+       written + " />\r\n", "", 0},
+  };
+  for (const auto& given : cases) {
+    const Outcome outcome = Run(given.arguments + " -", given.bytes);
+    EXPECT_EQ(outcome.out, given.out) << given.arguments;
+    EXPECT_EQ(outcome.err, given.err) << given.arguments;
+    EXPECT_EQ(outcome.exitCode, given.exitCode) << given.arguments;
+  }
+}
+
+TEST_F(CommandLine, ConvertReplacesTheFileOrLeavesItAlone) {
+  ASSERT_EQ(Run("sample task -o " + Quoted(File("a.xml"))).exitCode, 0);
+  const std::string before = ReadFile(File("a.xml"));
+  std::filesystem::permissions(
+      File("a.xml"), std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+  std::filesystem::create_symlink("a.xml", File("link.xml"));
+  EXPECT_EQ(Run("convert --encoding utf-8 " + Quoted(File("link.xml"))).exitCode, 0);
+  EXPECT_TRUE(ReadFile(File("a.xml")).starts_with("<?xml version='1.0' encoding='UTF-8'?>"));
+  EXPECT_TRUE(std::filesystem::is_symlink(File("link.xml")));
+  EXPECT_EQ(std::filesystem::status(File("a.xml")).permissions(),
+            std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+  EXPECT_EQ(Run("convert --encoding utf-16 " + Quoted(File("a.xml"))).exitCode, 0);
+  EXPECT_EQ(ReadFile(File("a.xml")), before);
+  EXPECT_FALSE(std::filesystem::exists(File("a.xml.praxen~")));
+  const Outcome two =
+      Run("convert -o out.xml " + Quoted(File("a.xml")) + ' ' + Quoted(File("a.xml")));
+  EXPECT_EQ(two.exitCode, 2);
+  EXPECT_EQ(ReadFile(File("a.xml")), before);
+}
+
+TEST_F(CommandLine, ProgressIsShownOnATerminal) {
+  const std::string command = "script -qec \"sleep 1 | '" PRAXEN_COMMAND_LINE_FILE
+                              "' check -\" /dev/null </dev/null >" +
+                              Quoted(File("terminal"));
+  std::system(command.c_str());
+  const std::string shown = ReadFile(File("terminal"));
+  const size_t progress = shown.find("\rpraxen: 0 of 1 files, 0 KiB read\x1b[K");
+  ASSERT_NE(progress, std::string::npos) << shown;
+  EXPECT_LT(progress, shown.find("\r\x1b[K")) << shown;
 }
 
 }  // namespace

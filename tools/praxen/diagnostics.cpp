@@ -1,4 +1,4 @@
-// Errors as a compiler prints them.
+// Errors and warnings as a compiler prints them.
 #include "tools/praxen/diagnostics.h"
 
 #include <algorithm>
@@ -29,12 +29,13 @@ size_t StartOfCharacter(std::u16string_view text, size_t offset) {
 std::string Indentation(std::u16string_view characters) {
   std::string indentation;
   for (const char16_t character : characters) {
-    if (!IsLowSurrogate(character)) indentation.push_back(character == u'\t' ? '\t' : ' ');
+    indentation.append(PrintedWidth(character), character == u'\t' ? '\t' : ' ');
   }
   return indentation;
 }
 
-// Description and detail, without the place that a reason of the parser ends with.
+}  // namespace
+
 std::u16string SentenceOf(const Error& error) {
   std::u16string description(error.description());
   const std::u16string place = u" (" + PlaceText(error.place()) + u")";
@@ -43,14 +44,23 @@ std::u16string SentenceOf(const Error& error) {
   return description;
 }
 
-}  // namespace
+size_t SourceLines::StartOf(uint32_t line) {
+  if (line < line_) {
+    line_ = 1;
+    start_ = 0;
+  }
+  start_ += OffsetAt(text_.substr(start_), {line - line_ + 1, 1});
+  line_ = line;
+  return start_;
+}
 
-std::string SourceLines(std::u16string_view text, Place place) {
-  const size_t start = OffsetAt(text, {place.line, 1});
-  const size_t end = std::min(text.find_first_of(u"\r\n", start), text.size());
-  const std::u16string_view line = text.substr(start, end - start);
-  const size_t column =
-      StartOfCharacter(line, std::min<size_t>(std::max(place.column, 1U) - 1, line.size()));
+std::string SourceLines::At(Place place) {
+  const std::u16string_view rest = text_.substr(StartOf(std::max(place.line, 1U)));
+  const size_t wanted = std::min<size_t>(std::max(place.column, 1U) - 1, rest.size());
+  // The line is looked at no further than it is shown.
+  const std::u16string_view line =
+      rest.substr(0, std::min(rest.find_first_of(u"\r\n", wanted), wanted + kWidth + 1));
+  const size_t column = StartOfCharacter(line, wanted);
   const size_t cutStart = column > kBefore ? StartOfCharacter(line, column - kBefore) : 0;
   const size_t cutEnd = StartOfCharacter(line, std::min(cutStart + kWidth, line.size()));
   const std::u16string_view shown = line.substr(cutStart, cutEnd - cutStart);
@@ -63,19 +73,27 @@ std::string SourceLines(std::u16string_view text, Place place) {
   return lines + Indentation(shown.substr(0, column - cutStart)) + "^\n";
 }
 
-void PrintError(const std::string& file, std::string_view sentence) {
+void PrintHead(std::ostream& stream, Severity severity, const std::string& file, Place place,
+               std::string_view sentence) {
   const Colours colours(stderr);
-  std::cout.flush();
-  std::cerr << colours.bold << file << ": " << colours.reset << colours.red
-            << "error: " << colours.reset << sentence << std::endl;
+  stream << colours.bold << file;
+  if (place.line != 0) stream << ':' << place.line << ':' << place.column;
+  const bool isError = severity == Severity::Error;
+  stream << ": " << colours.reset << (isError ? colours.red : colours.yellow)
+         << (isError ? "error: " : "warning: ") << colours.reset << sentence << '\n';
 }
 
-void PrintError(const std::string& file, const Error& error, const Text& text) {
+void PrintError(const std::string& file, std::string_view sentence) {
+  std::cout.flush();
+  PrintHead(std::cerr, Severity::Error, file, {}, sentence);
+  std::cerr.flush();
+}
+
+void PrintError(std::ostream& stream, const std::string& file, const Error& error,
+                const Text& text) {
   const Place place = error.place();
-  if (place.line == 0) return PrintError(file, Printable(SentenceOf(error)));
-  PrintError(file + ':' + std::to_string(place.line) + ':' + std::to_string(place.column),
-             Printable(SentenceOf(error)));
-  std::cerr << SourceLines(text, place) << std::flush;
+  PrintHead(stream, Severity::Error, file, place, Printable(SentenceOf(error)));
+  if (place.line != 0) stream << SourceLines(text).At(place);
 }
 
 }  // namespace praxen::detail

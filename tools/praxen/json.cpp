@@ -2,10 +2,12 @@
 #include "tools/praxen/json.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <string>
 #include <utility>
 
 #include "praxen/describe/reflection.h"
+#include "tools/praxen/terminal.h"
 
 namespace praxen::detail {
 
@@ -93,8 +95,26 @@ nlohmann::ordered_json ToJson(Object& object, JsonContent content) {
   return JsonMaker(content).Make(object);
 }
 
+// What would steer a terminal stands inside of strings only, where escapes are allowed.
 std::string JsonLine(const nlohmann::ordered_json& value) {
-  return value.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
+  const std::string json = value.dump(-1, ' ', false, Json::error_handler_t::replace);
+  std::string line;
+  line.reserve(json.size() + 1);
+  for (size_t at = 0; at < json.size(); ++at) {
+    // The controls are encoded in two bytes that begin with C2 or D8, or in three with E2.
+    const auto byte = static_cast<unsigned char>(json[at]);
+    const size_t size = byte == 0xE2 ? 3 : byte == 0xC2 || byte == 0xD8 ? 2 : 1;
+    const std::u16string character = size == 1 ? u"" : FromUtf8(json.substr(at, size));
+    if (character.size() == 1 && (character[0] < 0xA0 || IsBidirectionalControl(character[0]))) {
+      char escape[8];
+      std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(character[0]));
+      line += escape;
+    } else {
+      line.append(json, at, size);
+    }
+    at += size - 1;
+  }
+  return line + '\n';
 }
 
 }  // namespace praxen::detail

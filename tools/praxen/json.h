@@ -25,7 +25,7 @@ enum class JsonContent : bool { Changed, All };
 /// itself, as no object does that was read.
 nlohmann::ordered_json ToJson(Object& object, JsonContent content);
 
-/// The value in one line of UTF-8.
+/// The value in one line of UTF-8; control and bidirectional characters are escapes.
 std::string JsonLine(const nlohmann::ordered_json& value);
 
 }  // namespace praxen::detail

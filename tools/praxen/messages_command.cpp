@@ -4,13 +4,14 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "praxen/factory/object_factory.h"
+#include "praxen/factory/read_document.h"
+#include "praxen/model/messages/message_bucket.h"
 #include "tools/praxen/documents.h"
+#include "tools/praxen/json.h"
 #include "tools/praxen/terminal.h"
 
 namespace praxen::detail {
@@ -19,7 +20,7 @@ namespace {
 
 struct MessagesOptions {
   std::string file;
-  bool sort = false;
+  bool sort = false, json = false;
 };
 
 // The kinds in the order of --sort.
@@ -78,13 +79,13 @@ std::string PlaceText(const PosInfo& place) {
   return text;
 }
 
-void PrintLine(const Line& line, const Colours& colours) {
+void PrintLine(const Line& line, const Colours& colours, std::ostream& stream) {
   const std::string place = line.place ? PlaceText(*line.place) : std::string();
   const Appearance& appearance = AppearanceOf(line.kind);
-  if (!place.empty()) std::cout << colours.bold << place << ": " << colours.reset;
-  std::cout << colours.*appearance.colour << appearance.name;
-  if (line.number != 0) std::cout << ' ' << line.number;
-  std::cout << ": " << colours.reset << Printable(line.message) << '\n';
+  if (!place.empty()) stream << colours.bold << place << ": " << colours.reset;
+  stream << colours.*appearance.colour << appearance.name;
+  if (line.number != 0) stream << ' ' << line.number;
+  stream << ": " << colours.reset << Printable(line.message) << '\n';
 }
 
 std::string Counted(int64_t count, const std::string& noun) {
@@ -101,16 +102,33 @@ std::string Disagreement(const MessageBucket& bucket, int64_t errors, int64_t wa
   return counted.empty() ? "" : "; the list itself counts " + counted;
 }
 
+nlohmann::ordered_json LineJson(const Line& line) {
+  nlohmann::ordered_json json{{"kind", AppearanceOf(line.kind).name}};
+  if (line.number != 0) json["number"] = line.number;
+  json["message"] = ToUtf8(line.message);
+  if (line.place) json["place"] = ToJson(*line.place, JsonContent::Changed);
+  return json;
+}
+
 // Returns whether there are no errors.
-bool PrintMessages(const MessageBucket& bucket, bool sort) {
+bool PrintMessages(const MessageBucket& bucket, const MessagesOptions& options,
+                   std::ostream& stream) {
   std::vector<Line> lines = LinesOf(bucket);
-  if (sort) std::ranges::stable_sort(lines, {}, &Line::kind);
-  const Colours colours(stdout);
-  for (const Line& line : lines) PrintLine(line, colours);
+  if (options.sort) std::ranges::stable_sort(lines, {}, &Line::kind);
   const int64_t errors = std::ranges::count(lines, Kind::Error, &Line::kind);
   const int64_t warnings = std::ranges::count(lines, Kind::Warning, &Line::kind);
-  std::cout << colours.bold << Counted(errors, "error") << ", " << Counted(warnings, "warning")
-            << Disagreement(bucket, errors, warnings) << colours.reset << '\n';
+  if (options.json) {
+    nlohmann::ordered_json json{{"NoOfErrors", bucket.NoOfErrors},
+                                {"NoOfWarnings", bucket.NoOfWarnings},
+                                {"messages", nlohmann::ordered_json::array()}};
+    for (const Line& line : lines) json["messages"].push_back(LineJson(line));
+    stream << JsonLine(json);
+  } else {
+    const Colours colours(stdout);
+    for (const Line& line : lines) PrintLine(line, colours, stream);
+    stream << colours.bold << Counted(errors, "error") << ", " << Counted(warnings, "warning")
+           << Disagreement(bucket, errors, warnings) << colours.reset << '\n';
+  }
   return errors == 0 && bucket.NoOfErrors <= 0;
 }
 
@@ -122,10 +140,22 @@ void AddMessagesCommand(CLI::App& app, int& exitCode) {
   const auto options = std::make_shared<MessagesOptions>();
   command->add_option("FILE", options->file, "A message list; - is standard input")->required();
   command->add_flag("--sort", options->sort, "Errors first, then warnings, then the others");
+  command->add_flag("--json", options->json, "The list as one line of JSON");
+  command->footer(
+      "Exit code: 0 when there are no errors among the messages, 1 when there are or the list "
+      "cannot\n"
+      "be read, 2 for wrong use.\n\n"
+      "Examples:\n"
+      "  praxen messages --sort compiled.xml\n"
+      "  praxen messages --json - < compiled.xml");
   command->callback([&exitCode, options] {
-    exitCode = ForEachDocument({options->file}, [&](const std::string&, const Text& text) {
-      return PrintMessages(*ObjectFactory::DeserializeMessageBucket(text), options->sort);
-    });
+    exitCode = ForEachDocument({options->file}, {[&](const Document& document, Output& output) {
+                                 Losses losses;
+                                 const auto bucket =
+                                     ReadDocument<MessageBucket>(document.text, &losses);
+                                 WarnOfLosses(document, losses, output);
+                                 return PrintMessages(*bucket, *options, output.out);
+                               }});
   });
 }
 

@@ -1,8 +1,10 @@
 // Shows on standard error how far long work has come.
 #include "tools/praxen/progress.h"
 
+#include <chrono>
 #include <iostream>
 
+#include "praxen/core/counters.h"
 #include "tools/praxen/terminal.h"
 
 namespace praxen::detail {
@@ -15,26 +17,57 @@ constexpr auto kInterval = std::chrono::milliseconds(100);
 }  // namespace
 
 Progress::Progress(size_t files)
-    : visible_(IsTerminal(stderr)), files_(files), next_(Clock::now() + kPatience) {}
-
-void Progress::AddBytes(size_t count) {
-  bytes_ += count;
-  Show();
+    : visible_(IsTerminal(stderr)), files_(files), objects_before_(ObjectCounter()) {
+  if (visible_) watcher_ = std::thread([this] { Watch(); });
 }
 
-void Progress::FinishFile() {
+Progress::~Progress() {
+  if (!visible_) return;
+  {
+    const std::lock_guard lock(mutex_);
+    ended_ = true;
+    Clear();
+  }
+  ending_.notify_one();
+  watcher_.join();
+}
+
+void Progress::AddBytes(size_t count) {
+  const std::lock_guard lock(mutex_);
+  bytes_ += count;
+}
+
+void Progress::StartObjects(const std::string& name) {
+  const std::lock_guard lock(mutex_);
+  current_ = name;
+}
+
+void Progress::FinishFile(const std::string& out, const std::string& err) {
+  const std::lock_guard lock(mutex_);
+  Clear();
   ++finished_;
-  Show();
+  std::cout << out;
+  if (err.empty()) return;
+  std::cout.flush();
+  std::cerr << err << std::flush;
+}
+
+// The time is not seen to by the work itself, which may be inside the library for long.
+void Progress::Watch() {
+  std::unique_lock lock(mutex_);
+  for (auto wait = kPatience; !ending_.wait_for(lock, wait, [this] { return ended_; });
+       wait = kInterval) {
+    Show();
+  }
 }
 
 void Progress::Show() {
-  if (!visible_) return;
-  const Clock::time_point now = Clock::now();
-  if (now < next_) return;
-  next_ = now + kInterval;
   shown_ = true;
   std::cerr << "\rpraxen: " << finished_ << " of " << files_ << " files, " << bytes_ / 1024
-            << " KiB read\x1b[K" << std::flush;
+            << " KiB read";
+  const int64_t objects = ObjectCounter() - objects_before_;
+  if (objects > 0) std::cerr << ", " << objects << " objects of " << current_;
+  std::cerr << "\x1b[K" << std::flush;
 }
 
 void Progress::Clear() {

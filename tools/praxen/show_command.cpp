@@ -1,7 +1,6 @@
 // "praxen show": prints documents as outlines.
 #include "tools/praxen/show_command.h"
 
-#include <iostream>
 #include <limits>
 #include <memory>
 #include <string>
@@ -18,28 +17,26 @@ namespace praxen::detail {
 namespace {
 
 struct ShowOptions {
-  std::vector<std::string> files;
+  std::shared_ptr<std::vector<std::string>> files;
   size_t depth = std::numeric_limits<size_t>::max();
   bool json = false, all = false;
 };
 
-int ShowJson(const ShowOptions& options) {
-  const JsonContent content = options.all ? JsonContent::All : JsonContent::Changed;
-  return ForEachDocument(options.files, [&](const std::string&, const Text& text) {
-    std::cout << JsonLine(ToJson(*ReadDocument(text), content));
-    return true;
-  });
-}
-
 int Show(const ShowOptions& options) {
-  if (options.json) return ShowJson(options);
   const Colours colours(stdout);
-  return ForEachDocument(options.files, [&](const std::string& file, const Text& text) {
-    const Ref<Object> object = ReadDocument(text);
-    if (options.files.size() > 1) std::cout << colours.bold << file << colours.reset << '\n';
-    PrintOutline(*object, options.depth, colours, std::cout);
+  const JsonContent content = options.all ? JsonContent::All : JsonContent::Changed;
+  return ForEachDocument(*options.files, {[&](const Document& document, Output& output) {
+    Losses losses;
+    const Ref<Object> object = ReadDocument(document.text, &losses);
+    WarnOfLosses(document, losses, output);
+    if (options.json) {
+      output.out << JsonLine(ToJson(*object, content));
+      return true;
+    }
+    if (!document.isOnly) output.out << colours.bold << document.name << colours.reset << '\n';
+    PrintOutline(*object, options.depth, colours, output.out);
     return true;
-  });
+  }});
 }
 
 }  // namespace
@@ -47,8 +44,7 @@ int Show(const ShowOptions& options) {
 void AddShowCommand(CLI::App& app, int& exitCode) {
   CLI::App* const command = app.add_subcommand("show", "Print documents as outlines or as JSON");
   const auto options = std::make_shared<ShowOptions>();
-  command->add_option("FILE", options->files, "Documents in UTF-8 or UTF-16; - is standard input")
-      ->required();
+  options->files = AddDocuments(*command);
   CLI::Option* const depth =
       command->add_option("--depth", options->depth, "How many levels below the first are shown");
   CLI::Option* const json =
@@ -60,6 +56,11 @@ void AddShowCommand(CLI::App& app, int& exitCode) {
   command
       ->add_flag("--all", options->all, "In JSON also the properties that a new object holds alike")
       ->needs(json);
+  command->footer(
+      "Exit code: 0 when all documents are shown, 1 when one cannot be read, 2 for wrong use.\n\n"
+      "Examples:\n"
+      "  praxen show --depth 1 program.xml\n"
+      "  praxen show --json exports/ > exports.json");
   command->callback([&exitCode, options] { exitCode = Show(*options); });
 }
 

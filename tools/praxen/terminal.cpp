@@ -28,6 +28,14 @@ constexpr char16_t ToPrintable(char16_t character) {
   return isControl ? u'\uFFFD' : character;
 }
 
+std::u16string Escaped(char16_t character) {
+  std::u16string escape = u"\\u";
+  for (int shift = 12; shift >= 0; shift -= 4) {
+    escape.push_back(u"0123456789ABCDEF"[character >> shift & 0xF]);
+  }
+  return escape;
+}
+
 bool AllowsColours(FILE* stream) {
   const char* const refused = std::getenv("NO_COLOR");
   return IsTerminal(stream) && (refused == nullptr || *refused == '\0');
@@ -78,9 +86,23 @@ Colours::Colours(FILE* stream) {
 }
 
 std::string Printable(std::u16string_view text) {
-  std::u16string printable(text);
-  std::ranges::transform(printable, printable.begin(), ToPrintable);
+  std::u16string printable;
+  printable.reserve(text.size());
+  for (const char16_t character : text) {
+    if (IsBidirectionalControl(character)) {
+      printable += Escaped(character);
+    } else {
+      printable.push_back(ToPrintable(character));
+    }
+  }
   return ToUtf8(printable);
+}
+
+std::string PrintableUtf8(std::string_view text) { return Printable(FromUtf8(text)); }
+
+size_t PrintedWidth(char16_t character) {
+  if (character >= 0xDC00 && character <= 0xDFFF) return 0;
+  return IsBidirectionalControl(character) ? Escaped(character).size() : 1;
 }
 
 }  // namespace praxen::detail

@@ -23,9 +23,20 @@ struct Colours {
   std::string_view red, yellow, cyan, bold, dim, reset;
 };
 
-/// The text as UTF-8 on one line: line breaks become blanks, other control characters U+FFFD, so
-/// that no document can steer the terminal. Tabs stay.
+/// Whether the character turns the direction in which the text around it is shown.
+constexpr bool IsBidirectionalControl(char16_t c) {
+  return c == 0x061C || c == 0x200E || c == 0x200F || (c >= 0x202A && c <= 0x202E) ||
+         (c >= 0x2066 && c <= 0x2069);
+}
+
+/// The text as UTF-8 on one line: line breaks become blanks, bidirectional controls escapes such as
+/// "\u202E", other control characters U+FFFD, so that no document and no file name can steer the
+/// terminal. Tabs stay.
 std::string Printable(std::u16string_view text);
+/// The same of a text in UTF-8; what is malformed becomes U+FFFD.
+std::string PrintableUtf8(std::string_view text);
+/// How many characters a character of a text takes there; none for the second half of a pair.
+size_t PrintedWidth(char16_t character);
 
 }  // namespace praxen::detail
 
