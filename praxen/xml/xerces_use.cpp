@@ -8,6 +8,8 @@
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLUni.hpp>
 
+#include "praxen/core/static_mutex.h"
+
 namespace praxen::detail {
 namespace {
 
@@ -17,7 +19,7 @@ class NoPanic final : public xercesc::PanicHandler {
   void panic(const PanicReasons) override { throw std::bad_alloc(); }
 };
 
-constinit std::mutex mutex;
+constinit StaticMutex mutex;
 
 }  // namespace
 
