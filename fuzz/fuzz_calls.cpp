@@ -28,16 +28,18 @@ constexpr size_t kMostEnumerators = 8;
 
 using Enumerator = ComPointer<IEnumVARIANT>;
 
-// An object that is not the library's: it has every member, and answers each call alike.
+// An object that is not the library's: it has every member, and answers each call alike. It may
+// even answer whatever interface it is asked for.
 class Stranger final : public IDispatch {
  public:
-  Stranger(HRESULT result, VARIANT answer) : result_(result), answer_(answer) {}
+  Stranger(HRESULT result, VARIANT answer, bool answersAll)
+      : result_(result), answer_(answer), answers_all_(answersAll) {}
   Stranger(const Stranger&) = delete;
   Stranger& operator=(const Stranger&) = delete;
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) override {
     *out = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IDispatch) return E_NOINTERFACE;
+    if (iid != IID_IUnknown && iid != IID_IDispatch && !answers_all_) return E_NOINTERFACE;
     AddRef();
     *out = this;
     return S_OK;
@@ -62,6 +64,7 @@ class Stranger final : public IDispatch {
   ULONG references_ = 0;
   const HRESULT result_;
   const VARIANT answer_;
+  const bool answers_all_;
 };
 
 // The arguments of a call, and what they refer to, which lives as long as they do.
@@ -177,7 +180,8 @@ class Arguments {
       VARIANT answer = {};
       answer.vt = static_cast<VARTYPE>(input_.OneIn(2) ? VT_I4 : VT_NULL);
       answer.lVal = input_.Byte();
-      shared = &strangers_.emplace_back(input_.OneIn(2) ? DISP_E_EXCEPTION : S_OK, answer);
+      const HRESULT result = input_.OneIn(2) ? DISP_E_EXCEPTION : S_OK;
+      shared = &strangers_.emplace_back(result, answer, input_.OneIn(4));
     }
     shared->AddRef();
     return shared;
