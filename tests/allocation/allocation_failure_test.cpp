@@ -2,10 +2,12 @@
 // error and nothing else, and the next one works as ever.
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <new>
 #include <optional>
+#include <thread>
 #include <utility>
 
 #include "praxen/core/counters.h"
@@ -279,6 +281,33 @@ INSTANTIATE_TEST_SUITE_P(
       return std::string(std::get<0>(test.param).name) +
              (std::get<1>(test.param) == Failing::Once ? "Once" : "FromThenOn");
     });
+
+// Releasing cannot fail, and needs no more stack than ever.
+TEST(AllocationFailureOnAThread, LetsItReleaseObjectsAllTheSame) {
+  const int32_t before = ObjectCounter();
+  Ref<HWUnit> chain = New<HWUnit>();
+  for (int i = 0; i < 100'000; ++i) {
+    const auto outer = New<HWUnit>();
+    outer->HWUnits->Add(chain);
+    chain = outer;
+  }
+  bool failed = false;
+  std::atomic<int> step = 0;
+  std::thread thread([&] {
+    while (step == 0) std::this_thread::yield();
+    chain = nullptr;
+    ++step;
+  });
+  {
+    const FailingAllocator allocator(1, Failing::FromThenOn);
+    ++step;
+    while (step == 1) std::this_thread::yield();
+    failed = allocator.hasFailed();
+  }
+  thread.join();
+  EXPECT_TRUE(failed);
+  EXPECT_EQ(ObjectCounter(), before);
+}
 
 }  // namespace
 }  // namespace praxen::detail
