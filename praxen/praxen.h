@@ -6,6 +6,7 @@
 #include "praxen/factory/document_file.h"
 #include "praxen/factory/object_factory.h"
 #include "praxen/factory/read_document.h"
+#include "praxen/factory/schema.h"
 #include "praxen/model/maintenance.h"
 #include "praxen/model/model.h"
 

@@ -57,6 +57,8 @@ Error InvalidXml(std::u16string_view reason, Place place) {
   return {ObjectErrorCode(603), {}, u"Invalid XML: "_text + reason, place};
 }
 
+Error UnusableSchema(std::u16string_view reason) { return {0x8007000D, {}, Text(reason)}; }
+
 Error WrongRootElement(std::u16string_view found, std::u16string_view expected) {
   return Error(ObjectErrorCode(604), {}, u"Wrong root element"_text)
       .With(FoundInPlaceOf(found, expected));

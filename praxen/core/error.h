@@ -56,6 +56,8 @@ Error BufferRangeError(const Text& source, const Text& description);
 Error RequiredFieldsEmpty(const Text& fields);
 /// Object error 603: the text is not well-formed or not valid; `reason` is the parser's.
 Error InvalidXml(std::u16string_view reason, Place place);
+/// The schema cannot be opened, parsed or used; `reason` names its file and the cause (0x8007000D).
+Error UnusableSchema(std::u16string_view reason);
 /// Object error 604: the document element is not the expected one. `expected` tells which is.
 Error WrongRootElement(std::u16string_view found, std::u16string_view expected);
 /// Object error 605: a child element is not the expected one.

@@ -15,15 +15,18 @@
 
 namespace praxen::detail {
 
+inline constexpr std::u16string_view kSchemaNamespace = u"PraxenSchema3_0";
+
 /// Finds the place of the schema: "PraxenSchema3_0.xsd" in the current folder, beside the library
-/// or in the installed data folder, else the copy in the library. What is returned reads it.
+/// or in the installed data folder, else the copy in the library. What is returned gives the
+/// schema, to any thread: the first call reads it, and it is kept.
 std::function<XmlSchemaSource()> FindSchema();
 
 /// A document that is being read. What it has loaded is given up when it ends; nothing refers to
 /// the caller's text after that.
 class LoadedDocument {
  public:
-  /// Parses and validates the text; raises `InvalidXml`.
+  /// Parses and validates the text; raises `InvalidXml`, or `UnusableSchema` when that is at fault.
   explicit LoadedDocument(const Text& XMLStr);
   /// The same for a text whose root has to have that name; raises `WrongRootElement` when it has
   /// another.
@@ -34,7 +37,7 @@ class LoadedDocument {
 
   XmlNode root() const { return document_->documentElement(); }
   /// Whether the root has that name; raises `InvalidXml` when it has, but not in the namespace of
-  /// the exchange format.
+  /// the exchange format, or not as the schema declares it.
   bool IsRoot(std::u16string_view name) const;
   /// Fills a fresh object from the root; what that leaves out replaces `losses` when these are
   /// given.

@@ -113,12 +113,14 @@ void XmlDocument::Clear() {
 
 bool XmlDocument::PrepareEngine() {
   if (engine_ != nullptr && !engine_->retired()) return true;
+  error_ = schemaError_;
+  if (!error_.reason.empty()) return false;
   const XmlSchemaSource schema = schema_();
   tree_ = std::make_unique<XmlTree>(schema.targetNamespace);
   // A retired engine goes when the new one stands: what all engines share cannot be made anew when
   // memory is short.
   std::unique_ptr<XmlEngine> engine = XmlEngine::Make(schema);
-  error_ = engine->schemaError();
+  error_ = schemaError_ = engine->schemaError();
   if (!error_.reason.empty()) return false;
   engine_ = std::move(engine);
   return true;

@@ -84,8 +84,8 @@ class XmlNode {
 /// A document is used by one thread at a time; distinct documents are independent.
 class XmlDocument {
  public:
-  /// `schema` is called when the first text is loaded, and again by later loads while the schema
-  /// could not be used. What it throws leaves `LoadXML`.
+  /// `schema` is called when the first text is loaded. What it throws leaves `LoadXML`; a schema
+  /// that cannot be used fails every load.
   explicit XmlDocument(std::function<XmlSchemaSource()> schema);
   XmlDocument(const XmlDocument&) = delete;
   XmlDocument& operator=(const XmlDocument&) = delete;
@@ -120,6 +120,8 @@ class XmlDocument {
   std::unique_ptr<XmlEngine> engine_;
   std::unique_ptr<XmlTree> tree_;
   XmlParseError error_;
+  /// Why no engine can be made, once that is known.
+  XmlParseError schemaError_;
   bool rootDeclared_ = false;
 };
 

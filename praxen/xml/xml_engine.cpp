@@ -10,9 +10,12 @@
 #include <xercesc/util/XMLResourceIdentifier.hpp>
 #include <xercesc/util/XMLUni.hpp>
 #include <xercesc/validators/common/Grammar.hpp>
+#include <xercesc/validators/schema/ComplexTypeInfo.hpp>
+#include <xercesc/validators/schema/SchemaGrammar.hpp>
 
-#include "praxen/core/text.h"
+#include "praxen/xml/xml_limits.h"
 #include "praxen/xml/xml_reason.h"
+#include "praxen/xml/xml_schema_files.h"
 
 namespace praxen::detail {
 namespace {
@@ -23,7 +26,8 @@ constexpr size_t kMostReadCharacters = 1'000'000;
 constexpr size_t kMostKeptNames = 100;
 
 std::unique_ptr<xercesc::SGXMLScanner> NewScanner(xercesc::XMLDocumentHandler* handler,
-                                                  NoEntities& entities, XmlReporter& reporter,
+                                                  xercesc::XMLEntityHandler& entities,
+                                                  XmlReporter& reporter,
                                                   xercesc::GrammarResolver& grammars,
                                                   XmlMemory& memory) {
   auto scanner = std::make_unique<xercesc::SGXMLScanner>(handler, nullptr, &entities, &reporter,
@@ -70,6 +74,21 @@ void XmlGrammarPool::RenewNamespaces() {
                                                                      getMemoryManager());
 }
 
+void XmlGrammarPool::CompleteTypes() {
+  for (auto all = getGrammarEnumerator(); all.hasMoreElements();) {
+    auto& grammar = dynamic_cast<xercesc::SchemaGrammar&>(all.nextElement());
+    xercesc::RefHashTableOfEnumerator<xercesc::ComplexTypeInfo> types(
+        grammar.getComplexTypeRegistry(), false, getMemoryManager());
+    while (types.hasMoreElements()) {
+      xercesc::ComplexTypeInfo& type = types.nextElement();
+      const int content = type.getContentType();
+      const bool hasModel = content == xercesc::SchemaElementDecl::Children ||
+                            content == xercesc::SchemaElementDecl::Mixed_Complex;
+      if (hasModel && type.getContentSpec() != nullptr) type.getContentModel();
+    }
+  }
+}
+
 xercesc::InputSource* NoEntities::resolveEntity(xercesc::XMLResourceIdentifier* resource) {
   if (resource->getResourceIdentifierType() != xercesc::XMLResourceIdentifier::ExternalEntity) {
     return nullptr;
@@ -83,8 +102,8 @@ std::unique_ptr<XmlEngine> XmlEngine::Make(const XmlSchemaSource& schema) {
 
 XmlEngine::XmlEngine(const XmlSchemaSource& schema) {
   schemaError_ =
-      Run([&] { Compile(schema); },
-          [&] { return ExplainSchemaComplaint(FromUtf8(schema.systemId), reporter_.complaint()); });
+      Run([&] { CompileWithinBudget(schema); },
+          [&] { return ExplainSchemaComplaint(schema.systemId, reporter_.complaint()); });
   memory_->RequireNoShortage();
   if (!schemaError_.reason.empty()) return;
   MakeScanner();
@@ -121,16 +140,30 @@ XmlLoadResult XmlEngine::Load(std::u16string_view text, XmlTree& tree) {
   });
 }
 
+void XmlEngine::CompileWithinBudget(const XmlSchemaSource& schema) {
+  const XmlMemory::Budget budget(*memory_, kMaxXmlSchemaMemory);
+  reporter_.Begin(nullptr);
+  try {
+    Compile(schema);
+  } catch (const xercesc::OutOfMemoryException&) {
+    if (!budget.isSpent()) throw;
+    reporter_.Refuse(u"it takes too much to compile", {});
+  } catch (const xercesc::XMLException& failure) {
+    reporter_.Refuse(failure.getMessage(), {});
+  }
+}
+
 void XmlEngine::Compile(const XmlSchemaSource& schema) {
   xercesc::GrammarResolver grammars(&pool_, memory_.get());
-  const auto scanner = NewScanner(nullptr, entities_, reporter_, grammars, *memory_);
-  const xercesc::MemBufInputSource source(Bytes(schema.content.data()), schema.content.size(),
-                                          schema.systemId.c_str());
-  reporter_.Begin(nullptr);
+  XmlSchemaFiles files(schema, reporter_);
+  const auto scanner = NewScanner(nullptr, files, reporter_, grammars, *memory_);
+  const std::unique_ptr<xercesc::InputSource> source = files.Open();
   const xercesc::Grammar* const grammar =
-      scanner->loadGrammar(source, xercesc::Grammar::SchemaGrammarType, true);
-  if (grammar != nullptr && grammar->getTargetNamespace() == schema.targetNamespace) return;
-  reporter_.Refuse(u"the target namespace is not '" + schema.targetNamespace + u"'", {});
+      scanner->loadGrammar(*source, xercesc::Grammar::SchemaGrammarType, true);
+  if (grammar == nullptr || grammar->getTargetNamespace() != schema.targetNamespace) {
+    reporter_.Refuse(u"the target namespace is not '" + schema.targetNamespace + u"'", {});
+  }
+  pool_.CompleteTypes();
 }
 
 void XmlEngine::Parse(std::u16string_view text, XmlTree& tree) {

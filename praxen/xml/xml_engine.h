@@ -29,7 +29,8 @@ struct XmlLoadResult {
   bool rootDeclared = false;
 };
 
-/// Keeps the parser from opening files and connections: schemas are not found, entities are empty.
+/// Keeps the parser of documents from opening files and connections: schemas are not found,
+/// entities are empty.
 class NoEntities final : public xercesc::XMLEntityHandler {
  public:
   xercesc::InputSource* resolveEntity(xercesc::XMLResourceIdentifier* resource) override;
@@ -44,6 +45,9 @@ class XmlGrammarPool final : public xercesc::XMLGrammarPoolImpl {
  public:
   using XMLGrammarPoolImpl::XMLGrammarPoolImpl;
 
+  /// Makes what Xerces leaves to the first element of a type, so that no document has to wait for
+  /// it.
+  void CompleteTypes();
   /// Puts a pool that has the namespaces of the schema alone in the place of the one before.
   void RenewNamespaces();
   xercesc::XMLStringPool* getURIStringPool() override {
@@ -75,6 +79,7 @@ class XmlEngine {
  private:
   explicit XmlEngine(const XmlSchemaSource& schema);
 
+  void CompileWithinBudget(const XmlSchemaSource& schema);
   void Compile(const XmlSchemaSource& schema);
   void Parse(std::u16string_view text, XmlTree& tree);
   void MakeScanner();

@@ -18,6 +18,7 @@ struct XmlParseError {
   std::u16string reason;
   /// In the text; none when the schema is at fault.
   Place place;
+  bool isOfSchema = false;
 };
 
 /// The error with the place added to `sentence`.

@@ -37,6 +37,12 @@ inline constexpr size_t kMaxXmlAttributeLength = 10'000'000;
 inline constexpr size_t kMaxXmlAddedDeclarations = 1'000'000;
 inline constexpr size_t kMaxXmlAddedDeclarationsPerCharacter = 10;
 
+/// How many bytes a schema may have, the files that it includes and imports among them, how many
+/// files, and how many bytes may be asked for while it is compiled, which bounds the time too.
+inline constexpr size_t kMaxXmlSchemaSize = 10'000'000;
+inline constexpr size_t kMaxXmlSchemaFiles = 100;
+inline constexpr size_t kMaxXmlSchemaMemory = 500'000'000;
+
 /// The length of a document in UTF-16 units.
 inline constexpr size_t kMaxXmlDocumentLength = 500'000'000;
 

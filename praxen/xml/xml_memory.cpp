@@ -1,6 +1,7 @@
 // The reserve is given out piece after piece, and begins anew when all pieces are back.
 #include "praxen/xml/xml_memory.h"
 
+#include <algorithm>
 #include <cstring>
 #include <exception>
 #include <functional>
@@ -12,6 +13,9 @@
 namespace praxen::detail {
 
 namespace {
+
+// The least that a request takes from a budget.
+constexpr size_t kSmallestCount = 64;
 
 // Whether a request is for a reader with its buffers, before which Xerces notes who gave the
 // memory.
@@ -25,6 +29,8 @@ bool IsReader(size_t size) {
 XmlMemory::~XmlMemory() { ::operator delete(spareReader_); }
 
 void* XmlMemory::allocate(XMLSize_t size) {
+  budget_ -= static_cast<int64_t>(std::max(size, kSmallestCount));
+  if (budget_ < 0 && !MustSucceed()) throw xercesc::OutOfMemoryException();
   const bool isReader = IsReader(size);
   void* memory = isReader ? std::exchange(spareReader_, nullptr) : nullptr;
   if (memory == nullptr) memory = ::operator new(size, std::nothrow);
@@ -47,10 +53,12 @@ void XmlMemory::deallocate(void* memory) {
   ::operator delete(memory);
 }
 
+bool XmlMemory::MustSucceed() const { return releases_ != 0 || std::uncaught_exceptions() != 0; }
+
 // Null where an exception may be raised instead, and when nothing is left.
 void* XmlMemory::FromReserve(size_t size) {
   constexpr size_t kStep = alignof(std::max_align_t);
-  const bool mustSucceed = releases_ != 0 || std::uncaught_exceptions() != 0;
+  const bool mustSucceed = MustSucceed();
   if (!mustSucceed && size > kSmallRequest) return nullptr;
   const size_t most = mustSucceed ? kReserve : kReserve - kLastReserve;
   if (used_ > most || size > most - used_) return nullptr;

@@ -3,6 +3,7 @@
 #define PRAXEN_XML_XML_MEMORY_H_
 
 #include <cstddef>
+#include <cstdint>
 #include <new>
 #include <xercesc/framework/MemoryManager.hpp>
 
@@ -32,6 +33,21 @@ class XmlMemory final : public xercesc::MemoryManager {
   /// Everything that was given out is back by then.
   ~XmlMemory() override;
 
+  /// While it lives, no more than so many bytes are given, and what is asked for beyond them is
+  /// refused as if memory had run out. Small requests count as 64 bytes.
+  class Budget {
+   public:
+    Budget(XmlMemory& memory, int64_t bytes) : memory_(memory) { memory_.budget_ = bytes; }
+    Budget(const Budget&) = delete;
+    Budget& operator=(const Budget&) = delete;
+    ~Budget() { memory_.budget_ = kUnlimited; }
+
+    bool isSpent() const { return memory_.budget_ < 0; }
+
+   private:
+    XmlMemory& memory_;
+  };
+
   xercesc::MemoryManager* getExceptionMemoryManager() override { return this; }
   void ForgetShortage() { shortage_ = false; }
   /// Raises std::bad_alloc when the reserve has been drawn on.
@@ -49,6 +65,9 @@ class XmlMemory final : public xercesc::MemoryManager {
   static constexpr size_t kLastReserve = size_t{1} << 20;
   static constexpr size_t kSmallRequest = 256;
 
+  static constexpr int64_t kUnlimited = INT64_MAX;
+
+  bool MustSucceed() const;
   void* FromReserve(size_t size);
   bool IsReserve(const void* memory) const;
 
@@ -58,6 +77,7 @@ class XmlMemory final : public xercesc::MemoryManager {
   void* spareReader_ = nullptr;
   int releases_ = 0;
   bool shortage_ = false;
+  int64_t budget_ = kUnlimited;
   size_t used_ = 0;
   size_t pieces_ = 0;
   alignas(std::max_align_t) std::byte reserve_[kReserve];

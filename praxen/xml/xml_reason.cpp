@@ -316,14 +316,19 @@ XmlParseError ExplainXmlComplaint(std::u16string_view text, const XmlComplaint& 
 }
 
 XmlParseError ExplainSchemaComplaint(std::u16string_view systemId, const XmlComplaint& complaint) {
+  const bool isOther = !complaint.document.empty() && complaint.document != systemId;
+  const std::u16string document = isOther ? u"'" + complaint.document + u"'" : u"the schema";
   std::u16string place;
   if (complaint.place.line != 0) {
-    place = u" (" + PlaceText(complaint.place) + u" of the schema)";
+    place = u" (" + PlaceText(complaint.place) + u" of " + document + u")";
+  } else if (isOther) {
+    place = u" (" + document + u")";
   }
   return {AsSentence(u"The schema '" + std::u16string(systemId) + u"' cannot be used: " +
                      complaint.text) +
               place,
-          {}};
+          {},
+          true};
 }
 
 }  // namespace praxen::detail

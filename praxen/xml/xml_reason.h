@@ -23,6 +23,8 @@ struct XmlComplaint {
   std::u16string text;
   /// Where the parser was, which is after what it complains about.
   Place place;
+  /// Of a schema, the document in which it was.
+  std::u16string document = {};
 };
 
 /// How far the parser came.

@@ -26,20 +26,21 @@ void XmlReporter::Begin(const XmlTreeBuilder* builder) {
   complaint_ = {};
 }
 
-void XmlReporter::Refuse(std::u16string text, Place place) {
-  complaint_ = {XmlRuleList::Other, 0, true, std::move(text), place};
+void XmlReporter::Refuse(std::u16string text, Place place, std::u16string document) {
+  complaint_ = {XmlRuleList::Other, 0, true, std::move(text), place, std::move(document)};
   throw ParsingEnded();
 }
 
 void XmlReporter::error(unsigned int code, const XMLCh* domain, ErrTypes type, const XMLCh* text,
-                        const XMLCh*, const XMLCh*, XMLFileLoc line, XMLFileLoc column) {
+                        const XMLCh* document, const XMLCh*, XMLFileLoc line, XMLFileLoc column) {
   const XmlRuleList list = ListOf(domain);
   if (type == ErrType_Warning || IsTolerated(list, code, type)) return;
   complaint_ = {list,
                 code,
                 type == ErrType_Fatal,
                 text,
-                {static_cast<uint32_t>(line), static_cast<uint32_t>(column)}};
+                {static_cast<uint32_t>(line), static_cast<uint32_t>(column)},
+                document == nullptr ? u"" : document};
   throw ParsingEnded();
 }
 

@@ -19,11 +19,12 @@ class XmlReporter final : public xercesc::XMLErrorReporter {
 
   /// Prepares for a parsing of which `builder` is told, null for a schema.
   void Begin(const XmlTreeBuilder* builder);
-  /// Complains in place of the parser; throws `ParsingEnded`.
-  [[noreturn]] void Refuse(std::u16string text, Place place);
+  /// Complains in place of the parser, about a schema's document of that name or about the text
+  /// that is read; throws `ParsingEnded`.
+  [[noreturn]] void Refuse(std::u16string text, Place place, std::u16string document = {});
 
-  void error(unsigned int code, const XMLCh* domain, ErrTypes type, const XMLCh* text, const XMLCh*,
-             const XMLCh*, XMLFileLoc line, XMLFileLoc column) override;
+  void error(unsigned int code, const XMLCh* domain, ErrTypes type, const XMLCh* text,
+             const XMLCh* document, const XMLCh*, XMLFileLoc line, XMLFileLoc column) override;
   void resetErrors() override {}
 
   const XmlComplaint& complaint() const { return complaint_; }

@@ -334,6 +334,7 @@ TEST(Chart, BranchingsHaveAsManyBranchesAsAreAskedFor) {
     EXPECT_EQ(Markup(*elements), element("SFCSelection") + element("SFCSimultaneous"));
     EXPECT_EQ(Markup(*ObjectFactory::NewSFCSelection(test.number)), element("SFCSelection"));
   }
+  EXPECT_EQ(ErrorOf([] { ObjectFactory::NewSFCSimultaneous(1'000'001); }), "8002000A Overflow");
 }
 
 TEST(Chart, ActionsAreWrittenInTheirOwnOrder) {

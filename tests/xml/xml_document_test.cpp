@@ -3,8 +3,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <functional>
+#include <map>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -48,7 +51,7 @@ constexpr char kSchema[] = R"(<?xml version="1.0" encoding="UTF-8"?>
   </xs:element>
 </xs:schema>)";
 
-XmlSchemaSource TestSchema() { return {u"urn:test", kSchema, "test.xsd"}; }
+XmlSchemaSource TestSchema() { return {u"urn:test", kSchema, u"test.xsd"}; }
 
 std::string Narrow(std::u16string_view text) {
   std::string out;
@@ -398,31 +401,109 @@ TEST(XmlDocument, AsksForTheSchemaOnceAndWhenFirstNeeded) {
   EXPECT_EQ(asked, 1);
 }
 
-TEST(XmlDocument, SchemaThatCannotBeUsedFailsEveryLoadUntilItCan) {
-  XmlSchemaSource schema = TestSchema();
-  XmlDocument document([&] { return schema; });
-  const auto reasonWith = [&](const std::string& content) {
-    schema.content = content;
-    EXPECT_FALSE(document.LoadXML(kGood));
-    EXPECT_EQ(document.parseError().place, Place());
-    return Narrow(document.parseError().reason);
+// The reason for which no document can be loaded with a schema; empty when one can.
+std::string SchemaFault(const std::string& content,
+                        std::u16string_view targetNamespace = u"urn:test",
+                        const std::map<std::u16string, std::string>& beside = {}) {
+  XmlSchemaSource schema{std::u16string(targetNamespace), content, u"test.xsd"};
+  schema.neighbour = [&](const std::u16string& name) {
+    const auto found = beside.find(name);
+    return found == beside.end() ? std::nullopt : std::optional(found->second);
   };
-  const std::string reason = reasonWith("<xs:schema\n xs:a");
-  EXPECT_TRUE(reason.starts_with("The schema 'test.xsd' cannot be used: ")) << reason;
-  EXPECT_TRUE(reason.ends_with(" (line 2, column 6 of the schema)")) << reason;
-  EXPECT_NE(reasonWith("").find("The schema 'test.xsd' cannot be used: "), std::string::npos);
+  XmlDocument document([&] { return schema; });
+  if (document.LoadXML(kGood)) return {};
+  const std::string reason = Narrow(document.parseError().reason);
+  EXPECT_EQ(document.parseError().place, Place());
+  EXPECT_TRUE(document.parseError().isOfSchema);
+  constexpr std::string_view kStart = "The schema 'test.xsd' cannot be used: ";
+  EXPECT_TRUE(reason.starts_with(kStart)) << reason;
+  EXPECT_FALSE(document.LoadXML(kGood));
+  EXPECT_EQ(Narrow(document.parseError().reason), reason);
+  return reason.substr(std::min(kStart.size(), reason.size()));
+}
+
+// The schema with something put before its first element.
+std::string SchemaWith(std::string_view inserted) {
   std::string content = kSchema;
-  EXPECT_NE(reasonWith(content.replace(content.find("xs:int"), 6, "xs:odd")).find("odd"),
-            std::string::npos);
-  content = kSchema;
-  content.insert(content.find("<xs:element"),
-                 "<xs:include schemaLocation='test.xsd'/>"
-                 "<xs:attribute name='a' type='Included'/>");
-  EXPECT_NE(reasonWith(content).find("Included"), std::string::npos);
-  schema.targetNamespace = u"urn:other";
-  EXPECT_NE(reasonWith(kSchema).find("the target namespace is not 'urn:other'"), std::string::npos);
-  schema = TestSchema();
-  EXPECT_TRUE(document.LoadXML(kGood));
+  return content.insert(content.find("<xs:element"), inserted);
+}
+
+std::string InSchema(std::string_view content) {
+  return "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema' xmlns='urn:test' "
+         "targetNamespace='urn:test'>" +
+         std::string(content) + "</xs:schema>";
+}
+
+// Groups of ten of the group before.
+std::string NestedGroups(int depth) {
+  std::string groups =
+      "<xs:group name='g0'><xs:sequence><xs:element name='e'/></xs:sequence>"
+      "</xs:group>";
+  for (int i = 1; i <= depth; ++i) {
+    groups += "<xs:group name='g" + std::to_string(i) + "'><xs:sequence>";
+    for (int j = 0; j < 10; ++j) groups += "<xs:group ref='g" + std::to_string(i - 1) + "'/>";
+    groups += "</xs:sequence></xs:group>";
+  }
+  return groups + "<xs:element name='Many'><xs:complexType><xs:group ref='g" +
+         std::to_string(depth) + "'/></xs:complexType></xs:element>";
+}
+
+TEST(XmlDocument, TellsWhyASchemaCannotBeUsed) {
+  const std::string many =
+      "<xs:element name='Many'><xs:complexType><xs:sequence><xs:choice minOccurs='300000' "
+      "maxOccurs='300000'><xs:element name='a'/><xs:element name='b'/></xs:choice></xs:sequence>"
+      "</xs:complexType></xs:element>";
+  const std::string odd =
+      std::string(kSchema).replace(std::string(kSchema).find("xs:int"), 6, "xs:odd");
+  const struct {
+    std::string content;
+    const char* expected;  // A part of the reason.
+  } cases[] = {
+      {"<xs:schema\n xs:a", "(line 2, column 6 of the schema)"},
+      {"", "text is empty"},
+      {odd, "odd"},
+      {"<!DOCTYPE a [<!ENTITY a 'b'>]>" + SchemaWith(""),
+       "DTD is prohibited. (line 1, column 1 of"},
+      {SchemaWith("<xs:include schemaLocation='none.xsd'/>"), "no file 'none.xsd' beside it"},
+      {SchemaWith("<xs:include schemaLocation='../types.xsd'/>"), "only files beside it are read"},
+      {SchemaWith("<xs:include schemaLocation='/types.xsd'/>"), "only files beside it are read"},
+      {SchemaWith("<xs:import namespace='u' schemaLocation='http://localhost/types.xsd'/>"),
+       "only files beside it are read"},
+      {SchemaWith("<xs:include schemaLocation='dtd.xsd'/>"), "(line 1, column 1 of 'dtd.xsd')"},
+      {SchemaWith("<xs:include schemaLocation='bad.xsd'/>"), "of 'bad.xsd')"},
+      {SchemaWith("<xs:include schemaLocation='large.xsd'/>"), "it is too large"},
+      {SchemaWith(many), "it takes too much to compile"},
+      {SchemaWith(NestedGroups(9)), "it takes too much to compile"},
+      {"<?xml version='1.0' encoding='EBCDIC'?>" + InSchema(""), "encoding 'EBCDIC' is not known"},
+      {InSchema("<!-- \xE9 -->"), "it is not in UTF-8"},
+  };
+  const std::map<std::u16string, std::string> beside = {
+      {u"dtd.xsd", "<!DOCTYPE a>" + InSchema("")},
+      {u"bad.xsd", InSchema("<xs:element name='a' type='None'/>")},
+      {u"large.xsd", std::string(10'000'000, ' ')}};
+  for (const auto& [content, expected] : cases) {
+    const std::string reason = SchemaFault(content, u"urn:test", beside);
+    EXPECT_NE(reason.find(expected), std::string::npos) << expected << ": " << reason;
+  }
+  EXPECT_EQ(SchemaFault(kSchema, u"urn:other"), "the target namespace is not 'urn:other'.");
+}
+
+TEST(XmlDocument, ReadsASchemaWithTheFilesBesideIt) {
+  const std::string included = SchemaWith(
+      "<xs:include schemaLocation='types.xsd'/><xs:attribute name='a' type='Included'/>");
+  const std::string types = InSchema(
+      "<xs:include schemaLocation='test.xsd'/>"
+      "<xs:simpleType name='Included'><xs:restriction base='xs:int'/></xs:simpleType>");
+  EXPECT_EQ(SchemaFault(included, u"urn:test", {{u"types.xsd", types}, {u"test.xsd", included}}),
+            "");
+  EXPECT_EQ(SchemaFault("<?xml version='1.0' encoding='iso-8859-1'?><!-- \xE9 -->" +
+                        std::string(kSchema).substr(std::string(kSchema).find("<xs:schema"))),
+            "");
+  std::string wide = "\xFF\xFE";
+  for (const char c : std::string(kSchema).substr(std::string(kSchema).find("<xs:schema"))) {
+    wide += {c, '\0'};
+  }
+  EXPECT_EQ(SchemaFault(wide), "");
 }
 
 TEST(XmlDocument, TellsWhetherTheRootIsDeclared) {
@@ -597,8 +678,9 @@ TEST(XmlNode, ChildrenByIndexAndPositions) {
 
 TEST(XmlNode, LimitsTheDeclarationsAddedToMarkup) {
   XmlDocument document(TestSchema);
-  ASSERT_TRUE(document.LoadXML(u"<a xmlns:p='" + Repeated(u"u", 100'000) + u"'>" +
-                               Repeated(u"<b p:c=''/>", 50) + u"</a>"));
+  const std::u16string text =
+      u"<a xmlns:p='" + Repeated(u"u", 100'000) + u"'>" + Repeated(u"<b p:c=''/>", 50) + u"</a>";
+  ASSERT_TRUE(document.LoadXML(text));
   size_t taken = 0;
   const auto takeAll = [&] {
     XmlNode node = document.documentElement().firstChild();
