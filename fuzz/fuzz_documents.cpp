@@ -27,7 +27,10 @@ std::u16string RootName(std::string_view xml) {
 
 void ReadAs(const ClassDescription& description, const Text& document) {
   Ref<Object> read;
-  const auto reading = [&] { read = praxen::detail::DeserializeObject(description, document); };
+  praxen::Losses losses;
+  const auto reading = [&] {
+    read = praxen::detail::DeserializeObject(description, document, &losses);
+  };
   if (praxen::detail::Succeeds(praxen::detail::ReadingErrors(), reading)) {
     praxen::detail::HoldRoundTrip(*read, praxen::detail::Values::Carried);
   }

@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "praxen/core/counters.h"
+#include "praxen/core/losses.h"
 #include "praxen/describe/description.h"
 #include "praxen/factory/deserialization.h"
 #include "praxen/xml/xml_limits.h"
@@ -43,9 +44,15 @@ Text Write(Object& object) { return dynamic_cast<SerializableObject&>(object).Se
 void HoldDocument(const ClassDescription& description, Text document, Values values, bool stable) {
   for (int time = 0;; ++time) {
     Ref<Object> read;
-    if (!Succeeds(ReadingErrors(), [&] { read = DeserializeObject(description, document); })) {
+    Losses losses;
+    const auto reading = [&] { read = DeserializeObject(description, document, &losses); };
+    if (!Succeeds(ReadingErrors(), reading)) {
       if (HasBareConstant(document) || (time == 0 && values == Values::Arbitrary)) return;
       Broken("what was written is read", document);
+    }
+    const auto isPassed = [](const Loss& loss) { return loss.kind == LossKind::NotRead; };
+    if ((stable || time > 0) && std::ranges::any_of(losses, isPassed)) {
+      Broken("what was written is read as a whole", document);
     }
     Text again;
     if (!Succeeds(WritingErrors(), [&] { again = Write(*read); })) {

@@ -2,12 +2,8 @@
 #ifndef PRAXEN_FACTORY_DOCUMENT_FILE_H_
 #define PRAXEN_FACTORY_DOCUMENT_FILE_H_
 
-#include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <optional>
-#include <string>
-#include <string_view>
 
 #include "praxen/core/text.h"
 
@@ -34,22 +30,5 @@ void SaveDocument(const std::filesystem::path& file, const Text& document,
                   Encoding encoding = Encoding::Utf16);
 
 }  // namespace praxen
-
-namespace praxen::detail {
-
-struct DecodedDocument {
-  Text text;
-  /// The offset of the first character that the bytes do not encode, if there is one; U+FFFD stands
-  /// in its place.
-  std::optional<size_t> malformed;
-};
-
-/// The text that bytes of UTF-8 or UTF-16 stand for, as the first two of them tell.
-DecodedDocument DecodeDocument(std::string_view bytes);
-
-/// The bytes of a document, whose declaration names the encoding.
-std::string EncodeDocument(const Text& document, Encoding encoding);
-
-}  // namespace praxen::detail
 
 #endif  // PRAXEN_FACTORY_DOCUMENT_FILE_H_

@@ -379,7 +379,8 @@ TEST_F(CommandLine, WhatIsNotReadIsTold) {
        "", 1},
       {"check --json", "<Odd/>",
        started + R"("findings":[{"severity":"error","line":1,"column":1,"message":)"
-                 R"("Wrong root element: 'Odd' is no document of the exchange format"}]})"
+                 R"("Wrong root element: \"Odd\" where a document of the exchange format )"
+                 R"(is expected"}]})"
                  "\n",
        "", 1},
       {"check", two, "",
@@ -433,7 +434,6 @@ TEST_F(CommandLine, ConvertReplacesTheFileOrLeavesItAlone) {
             std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
   EXPECT_EQ(Run("convert --encoding utf-16 " + Quoted(File("a.xml"))).exitCode, 0);
   EXPECT_EQ(ReadFile(File("a.xml")), before);
-  EXPECT_FALSE(std::filesystem::exists(File("a.xml.praxen~")));
   const Outcome two =
       Run("convert -o out.xml " + Quoted(File("a.xml")) + ' ' + Quoted(File("a.xml")));
   EXPECT_EQ(two.exitCode, 2);

@@ -63,13 +63,12 @@ bool Convert(const Document& document, const ConvertOptions& options, Output& ou
   if (!TellLosses(document, losses, written, output) && !options.lossy) {
     throw Error(0, {}, u"not converted, since something would be lost; --lossy converts it"_text);
   }
-  const std::string bytes =
-      Encode(written, options.encodingGiven ? options.encoding : document.encoding);
+  const Encoding encoding = options.encodingGiven ? options.encoding : document.encoding;
   const std::string& file = options.file.empty() ? document.file : options.file;
   if (file == "-") {
-    output.out << bytes;
+    output.out << EncodeDocument(written, encoding);
   } else {
-    WriteBytes(file, bytes);
+    WriteDocument(file, written, encoding);
   }
   return true;
 }

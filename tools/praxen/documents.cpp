@@ -28,7 +28,7 @@ void Fail(const Document& document, const Error& error, const DocumentWork& work
 
 void ReadFile(const NamedFile& file, Document& document, Progress& progress) {
   if (!file.fault.empty()) throw Error(0, {}, FromUtf8(file.fault));
-  const DecodedText decoded = Decode(ReadBytes(file.name, progress));
+  const DecodedDocument decoded = DecodeDocument(ReadBytes(file.name, progress));
   document.text = decoded.text;
   document.encoding = decoded.encoding;
   if (!decoded.malformed) return;

@@ -43,7 +43,7 @@ std::string RequireFamily(const std::string& name) {
 int WriteSample(const SampleOptions& options) {
   const Text text = FindSampleFamily(options.family)->build()->Serialize();
   try {
-    WriteBytes(options.file, Encode(text, options.encoding));
+    WriteDocument(options.file, text, options.encoding);
   } catch (const Error& error) {
     PrintError(options.file == "-" ? "standard output" : PrintableUtf8(options.file),
                Printable(error.description()));
