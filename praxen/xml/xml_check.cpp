@@ -97,7 +97,7 @@ class NestingCheck {
       return TooMany(u"Too many attributes on one element", kMaxXmlAttributes);
     }
     if (tag.longestName > kMaxXmlNameLength) return TooLong(u"A name", kMaxXmlNameLength);
-    if (tag.longestValue > kMaxXmlAttributeLength) {
+    if (tag.longestValue > kMaxXmlAttributeMarkup) {
       return TooLong(u"An attribute value", kMaxXmlAttributeLength);
     }
     if (namespaces_.size() == kMaxXmlDepth) {

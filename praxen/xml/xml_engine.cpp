@@ -13,6 +13,7 @@
 #include <xercesc/validators/schema/ComplexTypeInfo.hpp>
 #include <xercesc/validators/schema/SchemaGrammar.hpp>
 
+#include "praxen/core/numbers.h"
 #include "praxen/xml/xml_limits.h"
 #include "praxen/xml/xml_reason.h"
 #include "praxen/xml/xml_schema_files.h"
@@ -110,7 +111,7 @@ XmlEngine::XmlEngine(const XmlSchemaSource& schema) {
   memory_->RequireNoShortage();
   builder_.onMarkup = [this] {
     memory_->RequireNoShortage();
-    RequireFewNames();
+    RequireWithinLimits();
   };
 }
 
@@ -192,8 +193,12 @@ void XmlEngine::MakeScanner() {
   scanner_->useCachedGrammarInParse(true);
 }
 
-void XmlEngine::RequireFewNames() {
+void XmlEngine::RequireWithinLimits() {
   std::u16string excess = builder_.foreignNames().Excess();
+  if (builder_.hasLongValue()) {
+    excess = u"an attribute value is too long; at most " + DecimalText(kMaxXmlAttributeLength) +
+             u" characters are allowed";
+  }
   if (excess.empty()) return;
   const xercesc::Locator& place = *scanner_->getLocator();
   reporter_.Refuse(std::move(excess), {static_cast<uint32_t>(place.getLineNumber()),

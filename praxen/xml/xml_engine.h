@@ -84,7 +84,7 @@ class XmlEngine {
   void Parse(std::u16string_view text, XmlTree& tree);
   void MakeScanner();
   void GiveUpScanner();
-  void RequireFewNames();
+  void RequireWithinLimits();
 
   /// Everything else needs Xerces up to its end.
   const XercesUse xerces_;

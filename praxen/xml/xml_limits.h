@@ -29,8 +29,10 @@ inline constexpr size_t kMaxXmlAlikeNamespaces = 64;
 /// The length of a name of an element, attribute or processing instruction in UTF-16 units.
 inline constexpr size_t kMaxXmlNameLength = 100'000;
 
-/// The length of an attribute value, as written, in UTF-16 units.
+/// The length of an attribute value in UTF-16 units, read and written, and how many it may take in
+/// markup, where the longest reference that is written takes six.
 inline constexpr size_t kMaxXmlAttributeLength = 10'000'000;
+inline constexpr size_t kMaxXmlAttributeMarkup = 6 * kMaxXmlAttributeLength;
 
 /// How many characters of namespace declarations may be added to pieces of a document that are
 /// taken out of it, together: so many, and so many for each character of the document.

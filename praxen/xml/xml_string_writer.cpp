@@ -181,6 +181,7 @@ void XMLStringWriter::WriteEndElement(std::u16string_view name) {
 }
 
 void XMLStringWriter::WriteAttributeString(std::u16string_view name, std::u16string_view value) {
+  if (value.size() > kMaxXmlAttributeLength) throw Overflow();
   char16_t* const end = buffer_.Reserve(name.size() + value.size() + kMostMarkup);
   char16_t* const start = Put(u'\'', Put(u'=', Copy(name, Put(u' ', end))));
   const size_t plain = CopyPlain<true>(value, start);

@@ -33,7 +33,8 @@ class XMLStringWriter {
   /// Starts an element; raises `NestedTooDeep` beyond `kMaxXmlDepth` open elements.
   void WriteStartElement(std::u16string_view name);
   void WriteEndElement(std::u16string_view name);
-  /// Writes an attribute of the element just started.
+  /// Writes an attribute of the element just started; raises `Overflow` for a value longer than
+  /// `kMaxXmlAttributeLength`.
   void WriteAttributeString(std::u16string_view name, std::u16string_view value);
   /// Writes an element that holds only text; an empty text gives a start and an end tag. Raises
   /// `NestedTooDeep` as `WriteStartElement` does.

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "praxen/xml/xml_limits.h"
+
 namespace praxen::detail {
 namespace {
 
@@ -24,6 +26,7 @@ void XmlTreeBuilder::Begin(XmlTree& tree) {
   tree_ = &tree;
   startedElements_ = 0;
   rootDeclared_ = false;
+  hasLongValue_ = false;
   foreignNames_.BeginDocument();
 }
 
@@ -73,6 +76,7 @@ void XmlTreeBuilder::startElement(const xercesc::XMLElementDecl& declaration, un
     }
     const std::u16string_view value =
         specified ? tree_->Copy(given.getValue()) : DefaultValue(attribute, given.getValue());
+    if (value.size() > kMaxXmlAttributeLength) hasLongValue_ = true;
     run[count++] = {attribute != nullptr
                         ? attribute->name
                         : foreignNames_.Intern(Qualified(given.getPrefix(), given.getName())),

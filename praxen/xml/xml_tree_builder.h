@@ -33,6 +33,8 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
   /// The name of the innermost open element; empty outside the root.
   std::u16string_view openElement() const;
   bool rootDeclared() const { return rootDeclared_; }
+  /// Whether an attribute value was longer than values may be.
+  bool hasLongValue() const { return hasLongValue_; }
   /// What was met that the schema does not declare.
   const XmlForeignNames& foreignNames() const { return foreignNames_; }
   /// Prepares for a new parser, which uses the same declarations.
@@ -80,6 +82,7 @@ class XmlTreeBuilder final : public xercesc::XMLDocumentHandler {
   /// The number of the element over all loads.
   size_t element_ = 0;
   bool rootDeclared_ = false;
+  bool hasLongValue_ = false;
 
   XmlNameUser schemaNames_;
   XmlForeignNames foreignNames_;

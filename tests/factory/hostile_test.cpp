@@ -47,5 +47,15 @@ TEST(Hostile, LongValuesAreRead) {
   EXPECT_EQ(Rewritten(text), text);
 }
 
+// A value that takes six times its length in markup is read as it is written, up to the limit.
+TEST(Hostile, ValuesAreAsLongWhenWrittenAsWhenRead) {
+  const auto variable = ObjectFactory::NewVariable(u"v", u"t");
+  variable->InitialValue = std::u16string(10'000'000, u'\'');
+  const Text document = variable->Serialize();
+  EXPECT_EQ(ObjectFactory::DeserializeVariable(document)->Serialize(), document);
+  variable->InitialValue = variable->InitialValue + u"'";
+  EXPECT_EQ(ErrorOf([&] { variable->Serialize(); }), "8002000A Overflow");
+}
+
 }  // namespace
 }  // namespace praxen::detail
