@@ -440,6 +440,35 @@ TEST_F(CommandLine, ConvertReplacesTheFileOrLeavesItAlone) {
   EXPECT_EQ(ReadFile(File("a.xml")), before);
 }
 
+TEST_F(CommandLine, AnotherSchemaIsUsedWhenAskedFor) {
+  const std::string schema = ReadFile(PRAXEN_SOURCE_FOLDER "/schema/PraxenSchema3_0.xsd");
+  const std::string other = File("other.xsd"), here = File("PraxenSchema3_0.xsd");
+  WriteFile(other, schema + "<!-- another -->");
+  WriteFile(here, "<odd/>");
+  const std::string task = Run("sample task").out;
+  const std::string note = "praxen: note: documents are validated against ";
+  const struct {
+    std::string arguments, error;
+    int exitCode;
+  } cases[] = {{"check -", "", 0},
+               {"check --schema " + Quoted(other) + " -", note + other, 0},
+               {"check --schema " + Quoted(here) + " -", note + here, 1},
+               {"check --schema no.xsd -", "praxen: error: ", 1},
+               {"show --schema no.xsd -", "no.xsd", 1}};
+  for (const auto& given : cases) {
+    // In the folder with a schema that cannot be used.
+    const auto before = std::filesystem::current_path();
+    std::filesystem::current_path(File(""));
+    const Outcome outcome = Run(given.arguments, task);
+    std::filesystem::current_path(before);
+    EXPECT_EQ(outcome.exitCode, given.exitCode) << given.arguments << outcome.err;
+    EXPECT_NE(outcome.err.find(given.error), std::string::npos) << outcome.err;
+    if (given.error.empty()) {
+      EXPECT_EQ(outcome.err, "");
+    }
+  }
+}
+
 TEST_F(CommandLine, ProgressIsShownOnATerminal) {
   const std::string command = "script -qec \"sleep 1 | '" PRAXEN_COMMAND_LINE_FILE
                               "' check -\" /dev/null </dev/null >" +

@@ -12,6 +12,7 @@
 #include "praxen/core/error.h"
 #include "praxen/describe/reflection.h"
 #include "praxen/factory/read_document.h"
+#include "praxen/factory/schema.h"
 #include "tools/praxen/diagnostics.h"
 #include "tools/praxen/documents.h"
 #include "tools/praxen/json.h"
@@ -122,8 +123,7 @@ void Print(const Document& document, const Findings& findings, bool good, Output
 }
 
 nlohmann::ordered_json ToJson(const Finding& finding) {
-  nlohmann::ordered_json json{
-      {"severity", finding.severity == Severity::Error ? "error" : "warning"}};
+  nlohmann::ordered_json json{{"severity", NameOf(finding.severity)}};
   if (finding.place.line != 0) {
     json["line"] = finding.place.line;
     json["column"] = finding.place.column;
@@ -144,7 +144,16 @@ void PrintJson(const Document& document, const Findings& findings, bool good, Ou
   output.out << JsonLine(json);
 }
 
+void TellSchema() {
+  const SchemaOrigin schema = CurrentSchema();
+  if (schema.isShipped) return;
+  PrintHead(std::cerr, Severity::Note, "praxen", {},
+            "documents are validated against " + Printable(schema.file) +
+                ", which is not the schema of this version");
+}
+
 int Run(const CheckOptions& options) {
+  TellSchema();
   const auto print = options.json ? &PrintJson : &Print;
   DocumentWork work;
   work.run = [&](const Document& document, Output& output) {

@@ -73,14 +73,19 @@ std::string SourceLines::At(Place place) {
   return lines + Indentation(shown.substr(0, column - cutStart)) + "^\n";
 }
 
+std::string_view NameOf(Severity severity) {
+  constexpr std::string_view kNames[] = {"error", "warning", "note"};
+  return kNames[static_cast<size_t>(severity)];
+}
+
 void PrintHead(std::ostream& stream, Severity severity, const std::string& file, Place place,
                std::string_view sentence) {
   const Colours colours(stderr);
   stream << colours.bold << file;
   if (place.line != 0) stream << ':' << place.line << ':' << place.column;
-  const bool isError = severity == Severity::Error;
-  stream << ": " << colours.reset << (isError ? colours.red : colours.yellow)
-         << (isError ? "error: " : "warning: ") << colours.reset << sentence << '\n';
+  const std::string_view all[] = {colours.red, colours.yellow, colours.cyan};
+  stream << ": " << colours.reset << all[static_cast<size_t>(severity)] << NameOf(severity) << ": "
+         << colours.reset << sentence << '\n';
 }
 
 void PrintError(const std::string& file, std::string_view sentence) {

@@ -14,7 +14,7 @@ namespace praxen::detail {
 
 // Files are named as they are shown; what is printed has the colours of standard error.
 
-enum class Severity : uint8_t { Error, Warning };
+enum class Severity : uint8_t { Error, Warning, Note };
 
 /// Prints "FILE: error: …" on standard error.
 void PrintError(const std::string& file, std::string_view sentence);
@@ -25,6 +25,9 @@ std::u16string SentenceOf(const Error& error);
 /// Prints the error with its place in `text`, the content of the file, when it has one.
 void PrintError(std::ostream& stream, const std::string& file, const Error& error,
                 const Text& text);
+
+/// "error", "warning" or "note".
+std::string_view NameOf(Severity severity);
 
 /// Prints "FILE:LINE:COLUMN: warning: …", without the place when its line is 0.
 void PrintHead(std::ostream& stream, Severity severity, const std::string& file, Place place,

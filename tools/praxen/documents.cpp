@@ -7,6 +7,7 @@
 #include <system_error>
 #include <thread>
 
+#include "praxen/factory/schema.h"
 #include "tools/praxen/diagnostics.h"
 #include "tools/praxen/files.h"
 #include "tools/praxen/progress.h"
@@ -120,7 +121,16 @@ void WarnOfLosses(const Document& document, const Losses& losses, Output& output
                 (count == 1 ? " loss" : " losses") + "; see praxen check)");
 }
 
+void AddSchema(CLI::App& command) {
+  command
+      .add_option_function<std::string>(
+          "--schema", [](const std::string& file) { UseSchemaFile(PathOf(file)); },
+          "Validate against this schema instead of the installed one")
+      ->type_name("FILE");
+}
+
 std::shared_ptr<std::vector<std::string>> AddDocuments(CLI::App& command) {
+  AddSchema(command);
   auto files = std::make_shared<std::vector<std::string>>();
   command
       .add_option("FILE", *files,

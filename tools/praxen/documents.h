@@ -53,7 +53,10 @@ Losses LossesInObjects(Losses losses);
 /// Prints one line of warning when there are such losses.
 void WarnOfLosses(const Document& document, const Losses& losses, Output& output);
 
-/// Adds the argument that names documents.
+/// Adds the option that names another schema.
+void AddSchema(CLI::App& command);
+
+/// Adds the argument that names documents, and that option.
 std::shared_ptr<std::vector<std::string>> AddDocuments(CLI::App& command);
 
 }  // namespace praxen::detail

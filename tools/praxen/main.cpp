@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "praxen/factory/schema.h"
 #include "tools/praxen/check_command.h"
 #include "tools/praxen/convert_command.h"
 #include "tools/praxen/diagnostics.h"
@@ -28,10 +29,20 @@ std::string FailureMessage(const CLI::App*, const CLI::Error& error) {
   return praxen::detail::PrintableUtf8(error.what()) + "\nRun with --help for more information.\n";
 }
 
+std::string VersionText() {
+  const praxen::SchemaOrigin schema = praxen::CurrentSchema();
+  const std::string version = "praxen " PRAXEN_VERSION;
+  if (schema.isShipped) return version;
+  return version + "\nschema " + praxen::detail::Printable(schema.file) +
+         ", which is not that of this version";
+}
+
 int Run(std::vector<std::string> arguments) {
   int exitCode = 0;
+  // What lies in the current folder is not trusted unless it is asked for.
+  praxen::UseInstalledSchema();
   CLI::App app("Reads, checks and shows documents of the exchange format.", "praxen");
-  app.set_version_flag("--version", "praxen " PRAXEN_VERSION);
+  app.set_version_flag("--version", VersionText);
   app.require_subcommand(1);
   app.get_formatter()->column_width(36);
   praxen::detail::AddSampleCommand(app, exitCode);
@@ -74,7 +85,7 @@ int main(int argc, char** argv) {
   try {
     return Run(praxen::detail::PrepareStreams(argc, argv));
   } catch (const std::exception& error) {
-    praxen::detail::PrintError("praxen", error.what());
+    praxen::detail::PrintError("praxen", praxen::detail::PrintableUtf8(error.what()));
     return 1;
   }
 }

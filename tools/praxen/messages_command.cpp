@@ -139,6 +139,7 @@ void AddMessagesCommand(CLI::App& app, int& exitCode) {
       app.add_subcommand("messages", "Print a message list the way a compiler would");
   const auto options = std::make_shared<MessagesOptions>();
   command->add_option("FILE", options->file, "A message list; - is standard input")->required();
+  AddSchema(*command);
   command->add_flag("--sort", options->sort, "Errors first, then warnings, then the others");
   command->add_flag("--json", options->json, "The list as one line of JSON");
   command->footer(
