@@ -58,8 +58,9 @@ std::string SourceLines::At(Place place) {
   const std::u16string_view rest = text_.substr(StartOf(std::max(place.line, 1U)));
   const size_t wanted = std::min<size_t>(std::max(place.column, 1U) - 1, rest.size());
   // The line is looked at no further than it is shown.
+  const std::u16string_view after = rest.substr(wanted, kWidth + 1);
   const std::u16string_view line =
-      rest.substr(0, std::min(rest.find_first_of(u"\r\n", wanted), wanted + kWidth + 1));
+      rest.substr(0, wanted + std::min(after.find_first_of(u"\r\n"), after.size()));
   const size_t column = StartOfCharacter(line, wanted);
   const size_t cutStart = column > kBefore ? StartOfCharacter(line, column - kBefore) : 0;
   const size_t cutEnd = StartOfCharacter(line, std::min(cutStart + kWidth, line.size()));
