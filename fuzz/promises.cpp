@@ -98,7 +98,7 @@ std::span<const uint32_t> ReadingErrors() {
 
 std::span<const uint32_t> WritingErrors() {
   static const uint32_t numbers[] = {RequiredFieldsEmpty({}).number(), MissingObject().number(),
-                                     NestedTooDeep(kMaxXmlDepth).number(),
+                                     NestedTooDeep(kMaxXmlDepth).number(), Overflow().number(),
                                      InvalidArgument().number()};
   return numbers;
 }

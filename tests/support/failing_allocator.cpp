@@ -36,6 +36,10 @@ constinit size_t requests_left = kNever;
 constinit bool fails_from_then_on = false;
 constinit bool has_failed = false;
 
+// Several threads may count at once, which then is not exact.
+constinit size_t request_count = 0;
+constinit size_t requested_bytes = 0;
+
 bool Fails() {
   if (requests_left == kNever) return false;
   if (has_failed) return fails_from_then_on;
@@ -43,7 +47,13 @@ bool Fails() {
   return has_failed;
 }
 
+void Count(size_t size) {
+  ++request_count;
+  requested_bytes += size;
+}
+
 void* Allocate(size_t size) noexcept {
+  Count(size);
   return Fails() ? nullptr : PRAXEN_FORMER(malloc)(size == 0 ? 1 : size);
 }
 
@@ -96,6 +106,12 @@ FailingAllocator::FailingAllocator(size_t request, Failing failing) {
   has_failed = false;
   requests_left = request;
 }
+
+CountedRequests::CountedRequests() { request_count = requested_bytes = 0; }
+
+size_t CountedRequests::requests() const { return request_count; }
+
+size_t CountedRequests::bytes() const { return requested_bytes; }
 
 FailingAllocator::~FailingAllocator() { requests_left = kNever; }
 

@@ -23,6 +23,14 @@ class FailingAllocator {
   bool hasFailed() const;
 };
 
+/// Counts what is requested of operator new from then on. One lives at a time.
+class CountedRequests {
+ public:
+  CountedRequests();
+  size_t requests() const;
+  size_t bytes() const;
+};
+
 }  // namespace praxen::detail
 
 #endif  // PRAXEN_TESTS_SUPPORT_FAILING_ALLOCATOR_H_
