@@ -31,6 +31,22 @@ program.Serialize()
 """
 ON_WINDOWS = 'import sys; sys.platform = "win32"; import praxenhelper'
 
+# Reads with the schema of the current folder before and after that changes; prints the errors.
+READ = """
+import pathlib
+from praxenhelper import AutomationError, Dispatch
+factory = Dispatch("PraxenHelper.ObjectFactory")
+text = "<Variable xmlns='PraxenSchema3_0' Name='v' Type='t' Attribute=''/>"
+for content in (None, "changed"):
+    if content is not None:
+        pathlib.Path("PraxenSchema3_0.xsd").write_text(content)
+    try:
+        print(factory.DeserializeVariable(text).Name)
+    except AutomationError as error:
+        print(hex(error.number), error.description)
+"""
+SCHEMA = pathlib.Path(__file__).parents[2] / "schema" / "PraxenSchema3_0.xsd"
+
 
 def run(code, *arguments, cwd=None, **environment):
     others = {name: value for name, value in os.environ.items() if name not in SETTINGS}
@@ -68,6 +84,22 @@ class LibraryTest(unittest.TestCase):
                 done = run(CREATE, **environment)
                 self.assertEqual((done.stdout, done.stderr), (CREATED, ""))
         self.assertTrue((data / "classes").exists())
+
+    def test_the_schema_is_read_once(self):
+        shipped = SCHEMA.read_text()
+        undeclared = shipped.replace('<xs:element name="Variable"', '<xs:element name="Other"')
+        file = self.folder / "PraxenSchema3_0.xsd"
+        for content, says in (
+            (shipped, "v\n"),
+            ("<x", f"0x8007000d The schema '{file}' cannot be used: "),
+            (undeclared, '0x8004025b Invalid XML: The element "Variable" is not declared by the'),
+        ):
+            with self.subTest(says):
+                file.write_text(content)
+                done = run(READ, cwd=self.folder, PRAXENHELPER_LIBRARY=LIBRARY)
+                before, after = done.stdout.splitlines(keepends=True) or ("", done.stderr)
+                self.assertTrue(before.startswith(says), before + done.stderr)
+                self.assertEqual(before, after)
 
     def test_the_registry_is_not_looked_for_in_the_current_folder(self):
         data = self.folder / ".local" / "share" / "praxenhelper"
