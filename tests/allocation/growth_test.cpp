@@ -88,7 +88,7 @@ std::string EqualName(size_t index) {
 
 // The pattern n times: # stands for the number unless it begins a reference, @ for a name of one
 // list, % for a name of one hash, ~ for many characters,
-// * for ten elements of one list.
+// * for forty elements of one list.
 std::string Filled(std::string_view pattern, size_t n) {
   std::string filled;
   for (size_t i = 0; i < n; ++i) {
@@ -104,7 +104,7 @@ std::string Filled(std::string_view pattern, size_t n) {
           filled += EqualName(i);
           break;
         case '*':
-          for (size_t name = 0; name < 10; ++name) filled += "<" + AlikeName(name) + "/>";
+          for (size_t name = 0; name < 40; ++name) filled += "<" + AlikeName(name) + "/>";
           break;
         case '~':
           filled.append(200, 'x');
