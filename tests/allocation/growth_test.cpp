@@ -245,7 +245,8 @@ struct Attack {
 
 void Read(const std::string& document) {
   const Text text = FromUtf8(document);
-  ErrorOf([&] { Markup(*ReadDocument(text)); });
+  Losses losses;
+  ErrorOf([&] { Markup(*ReadDocument(text, &losses)); });
 }
 
 // What is valid comes as far as its limit.
