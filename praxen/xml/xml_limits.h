@@ -15,7 +15,7 @@ inline constexpr uint32_t kMaxXmlAttributes = 1'000;
 
 /// How many namespace declarations may be in scope at once. A prefix is looked up among them one
 /// after the other.
-inline constexpr uint32_t kMaxXmlNamespacesInScope = 1'000;
+inline constexpr uint32_t kMaxXmlNamespacesInScope = 200;
 
 /// How many different names that the schema does not declare, prefixes included, how many elements
 /// of such names and their namespaces, and how many different namespaces a document may use.
