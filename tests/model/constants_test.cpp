@@ -164,7 +164,7 @@ TEST(ProjectConstants, KeepTheirPlacesOnALargeLevel) {
 // Constants of short names in a group of a long one: as many as can be written can be read.
 TEST(ProjectConstants, LimitTheirNamesTogether) {
   const std::string group(100'000, 'g');
-  for (const size_t count : {20, 21}) {
+  for (const size_t count : {size_t{20}, size_t{21}}) {
     const auto list = New<ProjectConstants>();
     std::string members;
     for (size_t i = 0; i < count; ++i) {
