@@ -107,6 +107,7 @@ XmlEngine::XmlEngine(const XmlSchemaSource& schema) {
           [&] { return ExplainSchemaComplaint(schema.systemId, reporter_.complaint()); });
   memory_->RequireNoShortage();
   if (!schemaError_.reason.empty()) return;
+  memory_->EndCompilation();
   MakeScanner();
   memory_->RequireNoShortage();
   builder_.onMarkup = [this] {

@@ -26,14 +26,20 @@ bool IsReader(size_t size) {
 
 }  // namespace
 
-XmlMemory::~XmlMemory() { ::operator delete(spareReader_); }
+XmlMemory::~XmlMemory() {
+  if (compilation_) {
+    compilation_->erase(spareReader_);
+    for (void* const lost : *compilation_) ::operator delete(lost);
+  }
+  ::operator delete(spareReader_);
+}
 
 void* XmlMemory::allocate(XMLSize_t size) {
   budget_ -= static_cast<int64_t>(std::max(size, kSmallestCount));
   if (budget_ < 0 && !MustSucceed()) throw xercesc::OutOfMemoryException();
   const bool isReader = IsReader(size);
   void* memory = isReader ? std::exchange(spareReader_, nullptr) : nullptr;
-  if (memory == nullptr) memory = ::operator new(size, std::nothrow);
+  if (memory == nullptr) memory = FromSystem(size);
   if (memory == nullptr) memory = FromReserve(size);
   if (memory == nullptr) throw xercesc::OutOfMemoryException();
   if (isReader) return reader_ = memory;
@@ -50,7 +56,20 @@ void XmlMemory::deallocate(void* memory) {
     reader_ = nullptr;
     memory = std::exchange(spareReader_, memory);
   }
+  if (compilation_) compilation_->erase(memory);
   ::operator delete(memory);
+}
+
+void* XmlMemory::FromSystem(size_t size) {
+  void* const memory = ::operator new(size, std::nothrow);
+  if (memory == nullptr || !compilation_) return memory;
+  try {
+    compilation_->insert(memory);
+    return memory;
+  } catch (const std::bad_alloc&) {
+    ::operator delete(memory);
+    return nullptr;
+  }
 }
 
 bool XmlMemory::MustSucceed() const { return releases_ != 0 || std::uncaught_exceptions() != 0; }

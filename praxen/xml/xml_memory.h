@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <optional>
+#include <unordered_set>
 #include <xercesc/framework/MemoryManager.hpp>
 
 namespace praxen::detail {
@@ -30,8 +32,12 @@ class XmlMemory final : public xercesc::MemoryManager {
   XmlMemory() = default;
   XmlMemory(const XmlMemory&) = delete;
   XmlMemory& operator=(const XmlMemory&) = delete;
-  /// Everything that was given out is back by then.
+  /// Everything that was given out is back by then, but for what Xerces lost in a compilation that
+  /// it could not finish, which is freed.
   ~XmlMemory() override;
+
+  /// From now on Xerces gives back everything.
+  void EndCompilation() { compilation_.reset(); }
 
   /// While it lives, no more than so many bytes are given, and what is asked for beyond them is
   /// refused as if memory had run out. Small requests count as 64 bytes.
@@ -67,6 +73,7 @@ class XmlMemory final : public xercesc::MemoryManager {
 
   static constexpr int64_t kUnlimited = INT64_MAX;
 
+  void* FromSystem(size_t size);
   bool MustSucceed() const;
   void* FromReserve(size_t size);
   bool IsReserve(const void* memory) const;
@@ -75,6 +82,8 @@ class XmlMemory final : public xercesc::MemoryManager {
   /// takes one, and it is too large for the allocator to have at hand.
   void* reader_ = nullptr;
   void* spareReader_ = nullptr;
+  /// What was given out and is not back, until the compilation ends.
+  std::optional<std::unordered_set<void*>> compilation_{std::in_place};
   int releases_ = 0;
   bool shortage_ = false;
   int64_t budget_ = kUnlimited;

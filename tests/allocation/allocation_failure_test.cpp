@@ -294,14 +294,16 @@ TEST(AllocationFailureOnAThread, LetsItReleaseObjectsAllTheSame) {
   bool failed = false;
   std::atomic<int> step = 0;
   std::thread thread([&] {
-    while (step == 0) std::this_thread::yield();
+    ++step;
+    while (step == 1) std::this_thread::yield();
     chain = nullptr;
     ++step;
   });
+  while (step == 0) std::this_thread::yield();
   {
     const FailingAllocator allocator(1, Failing::FromThenOn);
     ++step;
-    while (step == 1) std::this_thread::yield();
+    while (step == 2) std::this_thread::yield();
     failed = allocator.hasFailed();
   }
   thread.join();
