@@ -42,23 +42,35 @@ void WriteBytes(const fs::path& file, std::string_view bytes) {
   if (!stream) Fail("cannot write", file, errno);
 }
 
-// A name beside the file that no other writer chooses.
+// Where the links lead that a name stands for, also when nothing is there yet.
+fs::path FollowLinks(fs::path file) {
+  constexpr int kMostLinks = 40;
+  for (int links = 0; fs::is_symlink(file); ++links) {
+    if (links == kMostLinks) Fail("cannot write", file, ELOOP);
+    file = file.parent_path() / fs::read_symlink(file);
+  }
+  return file;
+}
+
+// A name in the folder of the file that nobody else chooses, of a length that every folder allows.
 fs::path NameBeside(const fs::path& file) {
   std::random_device random;
-  fs::path name = file;
-  return name += "." + std::to_string(random()) + ".new";
+  return file.parent_path() /
+         (".praxen-" + std::to_string(random()) + "-" + std::to_string(random()) + ".new");
 }
 
 void Replace(const fs::path& file, std::string_view bytes, const fs::file_status& former) {
   const fs::path written = NameBeside(file);
   try {
-    WriteBytes(written, bytes);
+    // Who may not read what was there never reads what comes.
+    WriteBytes(written, {});
     if (fs::exists(former)) fs::permissions(written, former.permissions());
+    WriteBytes(written, bytes);
     fs::rename(written, file);
-  } catch (...) {
+  } catch (const fs::filesystem_error& error) {
     std::error_code ignored;
     fs::remove(written, ignored);
-    throw;
+    throw fs::filesystem_error("cannot write", file, error.code());
   }
 }
 
@@ -82,7 +94,7 @@ Text LoadDocument(const std::filesystem::path& file) {
 
 void SaveDocument(const std::filesystem::path& file, const Text& document, Encoding encoding) {
   const std::string bytes = EncodeDocument(document, encoding);
-  const fs::path target = fs::is_symlink(file) ? fs::weakly_canonical(file) : file;
+  const fs::path target = FollowLinks(file);
   const fs::file_status former = fs::status(target);
   // What is no file, such as a pipe, is written into.
   const bool isOther = fs::exists(former) && !fs::is_regular_file(former);

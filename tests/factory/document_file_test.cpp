@@ -92,13 +92,29 @@ TEST_F(DocumentFile, IsReplacedAsAWhole) {
   SaveDocument(link, u"<c/>");
   EXPECT_TRUE(fs::is_symlink(link));
   EXPECT_EQ(LoadDocument(file_), u"<c/>");
+  fs::create_symlink("new.xml", folder_ / "new_link.xml");
+  SaveDocument(folder_ / "new_link.xml", u"<d/>");
+  EXPECT_EQ(LoadDocument(folder_ / "new.xml"), u"<d/>");
+  fs::create_symlink("loop.xml", folder_ / "loop.xml");
+  EXPECT_THROW(SaveDocument(folder_ / "loop.xml", u"<e/>"), fs::filesystem_error);
 #endif
 }
 
 TEST_F(DocumentFile, TellsWhatCannotBeReadOrStored) {
   EXPECT_THROW(LoadDocument(file_), fs::filesystem_error);
   EXPECT_THROW(LoadDocument(folder_), fs::filesystem_error);
-  EXPECT_THROW(SaveDocument(folder_ / "missing" / "a.xml", u"<a/>"), fs::filesystem_error);
+  const fs::path missing = folder_ / "missing" / "a.xml";
+  try {
+    SaveDocument(missing, u"<a/>");
+    ADD_FAILURE();
+  } catch (const fs::filesystem_error& error) {
+    EXPECT_EQ(error.path1(), missing);
+    EXPECT_EQ(error.code(), std::errc::no_such_file_or_directory);
+  }
+  // As long as a name may be.
+  const fs::path longest = folder_ / (std::string(251, 'n') + ".xml");
+  SaveDocument(longest, u"<a/>");
+  EXPECT_EQ(LoadDocument(longest), u"<a/>");
   EXPECT_THROW(SaveDocument(folder_, u"<a/>"), fs::filesystem_error);
 #ifdef __linux__
   EXPECT_THROW(SaveDocument("/dev/full", u"<a/>"), fs::filesystem_error);

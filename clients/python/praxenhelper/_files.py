@@ -37,13 +37,16 @@ def save(path, document, encoding="utf-16"):
     if target.exists() and not target.is_file():
         target.write_bytes(data)
         return
-    written = target.with_name(f"{target.name}.{secrets.token_hex(8)}.new")
+    written = target.with_name(f".praxen-{secrets.token_hex(8)}.new")
     try:
         with open(written, "xb") as stream:
+            # Who may not read what was there never reads what comes.
+            if target.exists():
+                shutil.copymode(target, written)
             stream.write(data)
-        if target.exists():
-            shutil.copymode(target, written)
         os.replace(written, target)
-    except BaseException:
+    except BaseException as error:
         written.unlink(missing_ok=True)
+        if isinstance(error, OSError):
+            raise type(error)(error.errno, error.strerror, os.fspath(path)) from None
         raise
