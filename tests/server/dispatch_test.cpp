@@ -120,6 +120,18 @@ TEST_F(LateBound, ValuesOfUnknownTypesAreRefused) {
   EXPECT_EQ(Obtain(program_, u"Variables").Get(), variables_.Get());
 }
 
+TEST_F(LateBound, AssignedValueMayOnlyBeNamedAsSuch) {
+  VARIANT values[] = {Variant(u"a").Detach(), {}};
+  DISPID name = 0;
+  DISPPARAMS parameters = {values, &name, 1, 1};
+  UINT badArgument = 99;
+  EXPECT_EQ(program_->Invoke(IdOf(program_, u"Name"), IID_NULL, 0, DISPATCH_PROPERTYPUT,
+                             &parameters, nullptr, nullptr, &badArgument),
+            DISP_E_PARAMNOTFOUND);
+  EXPECT_EQ(badArgument, 0u);
+  VariantClear(values);
+}
+
 TEST_F(LateBound, TextByReferenceIsLeftAsItWas) {
   const Handle blocks = Obtain(program_, u"CodeBlocks");
   BStr code(u"a := b;");

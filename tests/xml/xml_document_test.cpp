@@ -131,6 +131,7 @@ INSTANTIATE_TEST_SUITE_P(
     Trees, Loading,
     testing::Values(
         Holding(u"", ""), Holding(u"\n  \t", ""),
+        Case{u"<a>\xD800\xDC00\xDBFF\xDFFF</a>", "a['{55296}{56320}{56319}{57343}']"},
         Case{u"\uFEFF<List xmlns='urn:test' Hidden='1' Name='&lt;&#x41;\n'/>",
              "List(xmlns='urn:test' Hidden='1' Name='<A ' Scope~'private')"},
         Case{u"<?xml version='1.0' encoding='Shift_JIS'?><!-- <!DOCTYPE x> --><?p?>\n"
@@ -214,6 +215,7 @@ INSTANTIATE_TEST_SUITE_P(
              "Unpaired surrogate U+D83D is not a character. (line 1, column 6)"},
         Case{u"<a>" + std::u16string{0xDE00} + u"</a>",
              "Unpaired surrogate U+DE00 is not a character. (line 1, column 4)"},
+        Case{u"<a>\xDFFF</a>", "Unpaired surrogate U+DFFF is not a character. (line 1, column 4)"},
         Case{u"<a>&#xD83D;</a>",
              "Reference '&#xD83D;' is to U+D83D, which is not allowed in XML. (line 1, column 4)"},
         Case{u"<a>&#0;</a>",
