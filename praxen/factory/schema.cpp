@@ -65,6 +65,7 @@ std::filesystem::path FirstWithSchema(std::initializer_list<std::filesystem::pat
 
 std::filesystem::path InstalledSchema() {
   const std::filesystem::path beside = ModuleFolder();
+  if (beside.empty()) return {};
   return FirstWithSchema({beside, (beside / PRAXEN_DATA_FOLDER).lexically_normal()});
 }
 

@@ -53,11 +53,11 @@ class CommandLine : public testing::Test {
 
   std::string File(const std::string& name) const { return (folder_ / name).string(); }
 
-  Outcome Run(const std::string& arguments, std::string_view input = {}) const {
+  Outcome Run(const std::string& arguments, std::string_view input = {},
+              const std::string& program = Quoted(PRAXEN_COMMAND_LINE_FILE)) const {
     WriteFile(folder_ / "in", input);
-    std::string command = Quoted(PRAXEN_COMMAND_LINE_FILE) + ' ' + arguments + " <" +
-                          Quoted(File("in")) + " >" + Quoted(File("out")) + " 2>" +
-                          Quoted(File("err"));
+    std::string command = program + ' ' + arguments + " <" + Quoted(File("in")) + " >" +
+                          Quoted(File("out")) + " 2>" + Quoted(File("err"));
     const int exitCode = WEXITSTATUS(std::system(command.c_str()));
     return {exitCode, ReadFile(folder_ / "out"), ReadFile(folder_ / "err")};
   }
@@ -447,10 +447,16 @@ TEST_F(CommandLine, AnotherSchemaIsUsedWhenAskedFor) {
   WriteFile(here, "<odd/>");
   const std::string task = Run("sample task").out;
   const std::string note = "praxen: note: documents are validated against ";
+  const std::filesystem::path program = PRAXEN_COMMAND_LINE_FILE;
+  const std::string found =
+      "PATH=" + Quoted(program.parent_path().string()) + " " + program.filename().string();
   const struct {
     std::string arguments, error;
     int exitCode;
+    std::string program = Quoted(PRAXEN_COMMAND_LINE_FILE);
   } cases[] = {{"check -", "", 0},
+               {"check -", "", 0, found},
+               {"--version", "", 0, found},
                {"check --schema " + Quoted(other) + " -", note + other, 0},
                {"check --schema " + Quoted(here) + " -", note + here, 1},
                {"check --schema no.xsd -", "praxen: error: ", 1},
@@ -459,8 +465,9 @@ TEST_F(CommandLine, AnotherSchemaIsUsedWhenAskedFor) {
     // In the folder with a schema that cannot be used.
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(File(""));
-    const Outcome outcome = Run(given.arguments, task);
+    const Outcome outcome = Run(given.arguments, task, given.program);
     std::filesystem::current_path(before);
+    EXPECT_EQ(outcome.out.find("PraxenSchema3_0.xsd"), std::string::npos) << outcome.out;
     EXPECT_EQ(outcome.exitCode, given.exitCode) << given.arguments << outcome.err;
     EXPECT_NE(outcome.err.find(given.error), std::string::npos) << outcome.err;
     if (given.error.empty()) {
