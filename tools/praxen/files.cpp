@@ -27,14 +27,19 @@ bool IsDocumentName(const std::filesystem::path& path) {
   return MatchesWildcards(NameOf(path.filename()), "*.xml");
 }
 
+// Not folders, nor pipes and devices, whose reading need not end; a link to nothing is an error.
+bool MayBeRead(const std::filesystem::directory_entry& entry) {
+  std::error_code unknown;
+  return entry.is_regular_file(unknown) || !entry.exists(unknown);
+}
+
 // Appends the files of a folder, or the fault when it cannot be read or has none.
 void AppendFolder(const std::string& folder, std::vector<NamedFile>& files) {
   std::vector<std::string> found;
   std::error_code error;
   std::filesystem::recursive_directory_iterator entry(PathOf(folder), error);
   while (!error && entry != std::filesystem::recursive_directory_iterator()) {
-    std::error_code unknown;
-    if (IsDocumentName(entry->path()) && !entry->is_directory(unknown)) {
+    if (IsDocumentName(entry->path()) && MayBeRead(*entry)) {
       found.push_back(NameOf(entry->path()));
     }
     entry.increment(error);
