@@ -1,10 +1,11 @@
-// "praxen check": reads and tells what that leaves out, writes again and compares.
+// "praxen check": reads and tells what that or writing leaves out, writes again and compares.
 #include "tools/praxen/check_command.h"
 
 #include <algorithm>
 #include <iostream>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -16,11 +17,14 @@
 #include "tools/praxen/diagnostics.h"
 #include "tools/praxen/documents.h"
 #include "tools/praxen/json.h"
+#include "tools/praxen/losses.h"
 #include "tools/praxen/terminal.h"
 
 namespace praxen::detail {
 
 namespace {
+
+using namespace std::string_view_literals;
 
 struct CheckOptions {
   std::shared_ptr<std::vector<std::string>> files;
@@ -63,13 +67,18 @@ void CheckRewriting(const Ref<Object>& object, Findings& findings) {
        "what was written of it changes when it is read and written again\n" + std::move(line)});
 }
 
+// UTF-16 may be declared with its byte order.
+bool Declares(std::u16string_view name, Encoding encoding) {
+  if (EqualsIgnoringCase(name, NameOf(encoding))) return true;
+  return encoding == Encoding::Utf16 &&
+         (EqualsIgnoringCase(name, u"UTF-16LE"sv) || EqualsIgnoringCase(name, u"UTF-16BE"sv));
+}
+
 // The encoding that the bytes have is read whatever is declared, but not by every program.
 void CheckEncoding(const Document& document, Findings& findings) {
   const DeclaredEncoding declared = FindDeclaredEncoding(document.text);
   const std::u16string_view actual = NameOf(document.encoding);
-  if (declared.name.empty() || EqualsIgnoringCase(declared.name.substr(0, actual.size()), actual)) {
-    return;
-  }
+  if (declared.name.empty() || Declares(declared.name, document.encoding)) return;
   findings.all.push_back(
       {Severity::Warning, PlaceAt(document.text, declared.offset),
        "the document declares " + Printable(declared.name) + " but is in " + Printable(actual)});
@@ -100,7 +109,7 @@ Findings Check(const Document& document) {
   CheckEncoding(document, findings);
   Losses losses;
   const Ref<Object> object = ReadDocument(document.text, &losses);
-  for (const Loss& loss : LossesInObjects(std::move(losses))) {
+  for (const Loss& loss : LossesOfContent(std::move(losses))) {
     findings.lossy = true;
     findings.all.push_back({Severity::Warning, loss.place, Printable(loss.description)});
   }
@@ -177,17 +186,20 @@ int Run(const CheckOptions& options) {
 void AddCheckCommand(CLI::App& app, int& exitCode) {
   CLI::App* const command = app.add_subcommand("check",
                                                "Validate documents, and tell what of them is not "
-                                               "read and whether the rest survives writing");
+                                               "read, or not written again");
   const auto options = std::make_shared<CheckOptions>();
   options->files = AddDocuments(*command);
-  command->add_flag("--lossy", options->lossy, "Tell what is not read, but accept it");
+  command->add_flag("--lossy", options->lossy, "Tell what is lost, but accept it");
   command->add_option("-j,--jobs", options->jobs, "How many documents are checked at once")
       ->check(CLI::Range(1, 1024))
       ->type_name("N");
   command->add_flag("--json", options->json, "One line of JSON for each document");
   command->footer(
-      "Exit code: 0 when all documents are good, 1 when one is not or something of it is not "
-      "read,\n"
+      "Told are errors; what is not read, or read as something else; what is read and not written\n"
+      "again, such as a constant whose name another has; and an encoding other than the\n"
+      "declared one. Not told are comments, and attributes that are only read, such as TypeGuid.\n"
+      "Of a document that ends with an error, only the error is told.\n\n"
+      "Exit code: 0 when all documents are good, 1 when one is not or something of it is lost,\n"
       "2 for wrong use.\n\n"
       "Examples:\n"
       "  praxen check program.xml\n"

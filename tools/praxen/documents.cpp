@@ -10,6 +10,7 @@
 #include "praxen/factory/schema.h"
 #include "tools/praxen/diagnostics.h"
 #include "tools/praxen/files.h"
+#include "tools/praxen/losses.h"
 #include "tools/praxen/progress.h"
 #include "tools/praxen/terminal.h"
 
@@ -108,11 +109,6 @@ int ForEachDocument(const std::vector<std::string>& arguments, const DocumentWor
   return good ? 0 : 1;
 }
 
-Losses LossesInObjects(Losses losses) {
-  std::erase_if(losses, [](const Loss& loss) { return loss.kind == LossKind::NotWritten; });
-  return losses;
-}
-
 void WarnOfLosses(const Document& document, const Losses& losses, Output& output) {
   const size_t count = LossesInObjects(losses).size();
   if (count == 0) return;
@@ -121,11 +117,16 @@ void WarnOfLosses(const Document& document, const Losses& losses, Output& output
                 (count == 1 ? " loss" : " losses") + "; see praxen check)");
 }
 
+CLI::Validator FileName() {
+  return {[](const std::string& name) { return name.empty() ? "the name \"\" is empty" : ""; }, ""};
+}
+
 void AddSchema(CLI::App& command) {
   command
       .add_option_function<std::string>(
           "--schema", [](const std::string& file) { UseSchemaFile(PathOf(file)); },
           "Validate against this schema instead of the installed one")
+      ->check(FileName())
       ->type_name("FILE");
 }
 
@@ -135,6 +136,7 @@ std::shared_ptr<std::vector<std::string>> AddDocuments(CLI::App& command) {
   command
       .add_option("FILE", *files,
                   "Documents in UTF-8 or UTF-16, or folders of them; - is standard input")
+      ->check(FileName())
       ->required();
   return files;
 }

@@ -47,11 +47,11 @@ struct DocumentWork {
 /// the order of the files. Returns the exit code: 0 when all is well with all files, else 1.
 int ForEachDocument(const std::vector<std::string>& arguments, const DocumentWork& work);
 
-/// The losses of which the objects know nothing; those that only writing makes are left out.
-Losses LossesInObjects(Losses losses);
-
-/// Prints one line of warning when there are such losses.
+/// Prints one line of warning when there are losses of which the objects know nothing.
 void WarnOfLosses(const Document& document, const Losses& losses, Output& output);
+
+/// Refuses an empty name of a file.
+CLI::Validator FileName();
 
 /// Adds the option that names another schema.
 void AddSchema(CLI::App& command);
