@@ -1,5 +1,6 @@
 // Tests of the command line "praxen", run by the shell as a user runs it.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -285,6 +286,14 @@ TEST_F(CommandLine, WrongUseIsToldFromBadDocuments) {
       {"sample pump", 2, "program"},
       {"check", 2, "FILE is required"},
       {"grow", 2, "praxen: error: there is no command \"grow\"; did you mean \"show\"?\n"},
+      {"help nope", 2, "there is no command \"nope\"\n"},
+      {"--lossy check -", 2, "the option \"--lossy\" follows the command, such as \"check\""},
+      {"check --schema '' -", 2, "--schema: the name \"\" is empty"},
+      {"check - ''", 2, "FILE: the name \"\" is empty"},
+      {"sample --encoding latin task", 2, "--encoding: is utf-8 or utf-16, not \"latin\""},
+      {"show --depth -1 -", 2, "--depth: Value -1 not in range"},
+      {"check -j -1 -", 2, "--jobs: Value -1 not in range"},
+      {"show -1 -", 2, "there is no option \"-1\"\n"},
       {"chek -", 2, "did you mean \"check\"?"},
       {"help shw", 2, "there is no command \"shw\"; did you mean \"show\"?"},
       {"check --lossi -", 2, "there is no option \"--lossi\"; did you mean \"--lossy\"?"},
@@ -333,6 +342,7 @@ TEST_F(CommandLine, AFolderStandsForTheDocumentsInIt) {
     }
   }
   WriteFile(File("d/other.txt"), "");
+  ASSERT_EQ(mkfifo(File("d/pipe.xml").c_str(), 0600), 0);
   for (const std::string jobs : {"-j 1 ", "-j 3 "}) {
     const Outcome outcome = Run("check " + jobs + Quoted(File("d")));
     EXPECT_EQ(outcome.out, expected);
@@ -364,6 +374,14 @@ TEST_F(CommandLine, WhatIsNotReadIsTold) {
       "OutputUpdate='last' LatencySupervision='0' LatencyPercentage='1' TaskSILLevel='NonSIL'>"
       "<!-- c --></Task>";
   const std::string utf16 = "<?xml version='1.0' encoding='UTF-16'?>" + type + "/>";
+  const std::string odd = "<?xml version='1.0' encoding='UTF-8-x'?>" + type + "/>";
+  const std::string only =
+      "<Variable xmlns='PraxenSchema3_0' Name='s' Type='t' Attribute=''\n TypeGuid='g'/>";
+  const std::string value = "<Type>t</Type><Value>1</Value></ProjectConstant>";
+  const std::string constants =
+      "<ProjectConstants xmlns='PraxenSchema3_0'><ProjectConstant Name='a'>" + value +
+      "<ProjectConstant Name='a'><ProjectConstants>\n<ProjectConstant Name='b'>" + value +
+      "\n</ProjectConstants></ProjectConstant></ProjectConstants>";
   const std::string started = R"({"file":"-","ok":false,)";
   const std::string two = type + " Protected='x' Hidden='\xE2\x80\xAE'/>";
   const struct {
@@ -395,6 +413,17 @@ TEST_F(CommandLine, WhatIsNotReadIsTold) {
        "  1 | " +
            utf16 + "\n    |" + std::string(31, ' ') + "^\n",
        0},
+      {"check", constants, "",
+       "-:2:1: warning: 'a.b' is the name or the group of another constant, which is written\n"
+       "  2 | <ProjectConstant Name='b'>" +
+           value + "\n    | ^\n",
+       1},
+      {"check", only, ok("Variable", only), "", 0},
+      {"check", odd, ok("DataType", odd),
+       "-:1:31: warning: the document declares UTF-8-x but is in UTF-8\n"
+       "  1 | " +
+           odd + "\n    |" + std::string(31, ' ') + "^\n",
+       0},
       {"show", unit, "HWUnit 0\n",
        "-: warning: not all of the document was read (1 loss; see praxen check)\n", 0},
       {"convert", unit, "", lost + notes + refused, 1},
@@ -404,8 +433,7 @@ TEST_F(CommandLine, WhatIsNotReadIsTold) {
        lost + notes, 0},
       {"convert", noted, "", notes + refused, 1},
       {"convert", type + " Hidden='true'></DataType>", written + " Hidden='1' />\r\n", "", 0},
-      {"convert",
-       "<Variable xmlns='PraxenSchema3_0' Name='s' Type='t' Attribute=''\n TypeGuid='g'/>", "",
+      {"convert", only, "",
        "-:2:2: warning: 'TypeGuid' is only read; writing leaves it out\n"
        "  2 |  TypeGuid='g'/>\n    |  ^\n" +
            refused,

@@ -92,8 +92,10 @@ void AddConvertCommand(CLI::App& app, int& exitCode) {
       "convert", "Write documents anew as the library writes them, in place or to a file");
   const auto options = std::make_shared<ConvertOptions>();
   options->files = AddDocuments(*command);
-  command->add_option("-o,--output", options->file,
-                      "The file to write instead of the one that is read; - is standard output");
+  command
+      ->add_option("-o,--output", options->file,
+                   "The file to write instead of the one that is read; - is standard output")
+      ->check(FileName());
   CLI::Option* const encoding =
       AddEncoding(*command, options->encoding,
                   "utf-8, or utf-16 with byte-order mark, instead of the document's own");

@@ -4,19 +4,24 @@
 
 #include <CLI/CLI.hpp>
 
-#include <map>
 #include <string>
 
+#include "praxen/core/ascii.h"
 #include "tools/praxen/document_text.h"
 
 namespace praxen::detail {
 
 /// Adds "--encoding", which takes utf-8 and utf-16.
 inline CLI::Option* AddEncoding(CLI::App& command, Encoding& encoding, const std::string& help) {
-  const std::map<std::string, Encoding> names{{"utf-8", Encoding::Utf8},
-                                              {"utf-16", Encoding::Utf16}};
-  return command.add_option("--encoding", encoding, help)
-      ->transform(CLI::CheckedTransformer(names, CLI::ignore_case).description(""));
+  const auto set = [&encoding](const std::string& name) {
+    for (const Encoding each : {Encoding::Utf8, Encoding::Utf16}) {
+      if (!EqualsIgnoringCase<char, char16_t>(name, NameOf(each))) continue;
+      encoding = each;
+      return;
+    }
+    throw CLI::ValidationError("--encoding", "is utf-8 or utf-16, not \"" + name + '"');
+  };
+  return command.add_option_function<std::string>("--encoding", set, help)->type_name("NAME");
 }
 
 }  // namespace praxen::detail

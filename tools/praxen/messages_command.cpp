@@ -138,7 +138,9 @@ void AddMessagesCommand(CLI::App& app, int& exitCode) {
   CLI::App* const command =
       app.add_subcommand("messages", "Print a message list the way a compiler would");
   const auto options = std::make_shared<MessagesOptions>();
-  command->add_option("FILE", options->file, "A message list; - is standard input")->required();
+  command->add_option("FILE", options->file, "A message list; - is standard input")
+      ->check(FileName())
+      ->required();
   AddSchema(*command);
   command->add_flag("--sort", options->sort, "Errors first, then warnings, then the others");
   command->add_flag("--json", options->json, "The list as one line of JSON");

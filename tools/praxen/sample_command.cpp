@@ -7,6 +7,7 @@
 
 #include "praxen/core/error.h"
 #include "tools/praxen/diagnostics.h"
+#include "tools/praxen/documents.h"
 #include "tools/praxen/encoding_option.h"
 #include "tools/praxen/samples.h"
 #include "tools/praxen/terminal.h"
@@ -68,7 +69,8 @@ void AddSampleCommand(CLI::App& app, int& exitCode) {
   const auto options = std::make_shared<SampleOptions>();
   command->add_option("FAMILY", options->family, "The family; --list names them")
       ->check(CLI::Validator(RequireFamily, ""));
-  command->add_option("-o,--output", options->file, "The file to write instead of standard output");
+  command->add_option("-o,--output", options->file, "The file to write instead of standard output")
+      ->check(FileName());
   CLI::Option* const encoding =
       AddEncoding(*command, options->encoding,
                   "utf-8, or utf-16 with byte-order mark; utf-8 on a terminal, else utf-16");

@@ -46,7 +46,9 @@ void AddShowCommand(CLI::App& app, int& exitCode) {
   const auto options = std::make_shared<ShowOptions>();
   options->files = AddDocuments(*command);
   CLI::Option* const depth =
-      command->add_option("--depth", options->depth, "How many levels below the first are shown");
+      command->add_option("--depth", options->depth, "How many levels below the first are shown")
+          ->check(CLI::Range(0, std::numeric_limits<int>::max()).description(""))
+          ->type_name("N");
   CLI::Option* const json =
       command
           ->add_flag("--json", options->json,

@@ -5,7 +5,9 @@
 #include <iostream>
 #include <memory>
 #include <numeric>
+#include <utility>
 
+#include "praxen/core/ascii.h"
 #include "tools/praxen/diagnostics.h"
 #include "tools/praxen/terminal.h"
 
@@ -54,17 +56,38 @@ std::string Unknown(const std::string& what, std::string_view name,
                     const std::vector<std::string>& names) {
   constexpr size_t kShown = 60;
   const std::string shown(name.substr(0, kShown));
-  return "there is no " + what + " \"" + shown + "\"; did you mean \"" +
-         std::string(Nearest(shown, names)) + "\"?";
+  const std::string_view near = Nearest(shown, names);
+  return "there is no " + what + " \"" + shown + '"' +
+         (near.empty() ? "" : "; did you mean \"" + std::string(near) + "\"?");
 }
 
 bool IsOption(std::string_view argument) { return argument.size() > 1 && argument[0] == '-'; }
 
+bool IsNumber(std::string_view argument) { return IsOption(argument) && IsDigitAscii(argument[1]); }
+
 // An argument such as --depth=2, -j4 or -ab names its options by its start.
-bool Knows(const CLI::App& command, const std::string& argument) {
+const CLI::Option* FindOption(const CLI::App& command, const std::string& argument) {
   const bool isLong = argument.starts_with("--");
-  const std::string name = isLong ? argument.substr(0, argument.find('=')) : argument.substr(0, 2);
-  return command.get_option_no_throw(name) != nullptr;
+  return command.get_option_no_throw(isLong ? argument.substr(0, argument.find('='))
+                                            : argument.substr(0, 2));
+}
+
+// Whether the value of the option is the argument that follows.
+bool TakesNext(const CLI::Option* option, const std::string& argument) {
+  const bool isLong = argument.starts_with("--");
+  const bool hasValue = isLong ? argument.find('=') != argument.npos : argument.size() > 2;
+  return option != nullptr && option->get_items_expected_max() > 0 && !hasValue;
+}
+
+std::string UnknownOption(const CLI::App& app, const CLI::App& command,
+                          const std::string& argument) {
+  const auto takers = app.get_subcommands(
+      [&](const CLI::App* each) { return FindOption(*each, argument) != nullptr; });
+  if (&command != &app || takers.empty()) {
+    return Unknown("option", argument, OptionsOf(command));
+  }
+  return "the option \"" + argument + "\" follows the command, such as \"" +
+         takers.front()->get_name() + '"';
 }
 
 void Help(const CLI::App& app, const std::string& command, int& exitCode) {
@@ -84,16 +107,24 @@ void Help(const CLI::App& app, const std::string& command, int& exitCode) {
 }  // namespace
 
 std::string_view Nearest(std::string_view name, const std::vector<std::string>& names) {
-  return *std::ranges::min_element(names, {},
-                                   [&](const std::string& each) { return Distance(name, each); });
+  const auto distance = [&](const std::string& each) { return Distance(name, each); };
+  const std::string& nearest = *std::ranges::min_element(names, {}, distance);
+  const size_t dashes = std::min(name.find_first_not_of('-'), name.size());
+  const size_t most = (name.size() - dashes + 2) / 3;
+  return distance(nearest) <= most ? std::string_view(nearest) : std::string_view();
 }
 
 std::string FindUnknown(const CLI::App& app, const std::vector<std::string>& arguments) {
   const CLI::App* command = &app;
+  bool isValue = false;
   for (const std::string& argument : arguments) {
     if (argument == "--") return {};
+    const bool mayBeValue = std::exchange(isValue, false);
+    if (mayBeValue && IsNumber(argument)) continue;
     if (IsOption(argument)) {
-      if (!Knows(*command, argument)) return Unknown("option", argument, OptionsOf(*command));
+      const CLI::Option* const option = FindOption(*command, argument);
+      if (option == nullptr) return UnknownOption(app, *command, argument);
+      isValue = TakesNext(option, argument);
     } else if (command == &app) {
       command = FindCommand(app, argument);
       if (command == nullptr) return Unknown("command", argument, CommandsOf(app));
