@@ -219,11 +219,12 @@ TEST_F(CommandLine, ShowTellsTheWholeDocumentInOneLineOfJson) {
       "MessageType='SingleProgram' StartPos='0' EndPos='0' PageNo='0' Id=''/></Error>"
       "</MessageBucket>";
   const Outcome outcome = Run("show --json -", list);
-  EXPECT_EQ(outcome.out,
-            R"({"$class":"MessageBucket","NoOfErrors":1,"$elements":[{"$class":"ErrorMsg",)"
-            R"("ErrorNo":9,"Message":"a\nb","PosInfo":{"$class":"PosInfo","Row":2,)"
-            R"("MessageType":"SingleProgram"}}]})"
-            "\n");
+  EXPECT_EQ(
+      outcome.out,
+      R"({"$file":"-","$class":"MessageBucket","NoOfErrors":1,"$elements":[{"$class":"ErrorMsg",)"
+      R"("ErrorNo":9,"Message":"a\nb","PosInfo":{"$class":"PosInfo","Row":2,)"
+      R"("MessageType":"SingleProgram"}}]})"
+      "\n");
   EXPECT_EQ(outcome.err, "");
 }
 
@@ -424,6 +425,11 @@ TEST_F(CommandLine, WhatIsNotReadIsTold) {
        "  1 | " +
            odd + "\n    |" + std::string(31, ' ') + "^\n",
        0},
+      {"show --json", "<Odd/>",
+       R"({"$file":"-","$error":{"severity":"error","line":1,"column":1,"message":)"
+       R"("Wrong root element: \"Odd\" where a document of the exchange format is expected"}})"
+       "\n",
+       "", 1},
       {"show", unit, "HWUnit 0\n",
        "-: warning: not all of the document was read (1 loss; see praxen check)\n", 0},
       {"convert", unit, "", lost + notes + refused, 1},

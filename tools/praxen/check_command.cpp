@@ -131,16 +131,6 @@ void Print(const Document& document, const Findings& findings, bool good, Output
              << Counted(document.text.size(), "character") << ")\n";
 }
 
-nlohmann::ordered_json ToJson(const Finding& finding) {
-  nlohmann::ordered_json json{{"severity", NameOf(finding.severity)}};
-  if (finding.place.line != 0) {
-    json["line"] = finding.place.line;
-    json["column"] = finding.place.column;
-  }
-  json["message"] = finding.sentence;
-  return json;
-}
-
 void PrintJson(const Document& document, const Findings& findings, bool good, Output& output) {
   nlohmann::ordered_json json{{"file", document.file}, {"ok", good}};
   if (!findings.element.empty()) {
@@ -149,7 +139,9 @@ void PrintJson(const Document& document, const Findings& findings, bool good, Ou
     json["characters"] = document.text.size();
   }
   json["findings"] = nlohmann::ordered_json::array();
-  for (const Finding& finding : findings.all) json["findings"].push_back(ToJson(finding));
+  for (const Finding& finding : findings.all) {
+    json["findings"].push_back(DiagnosticJson(finding.severity, finding.place, finding.sentence));
+  }
   output.out << JsonLine(json);
 }
 

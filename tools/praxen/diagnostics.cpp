@@ -89,6 +89,16 @@ void PrintHead(std::ostream& stream, Severity severity, const std::string& file,
          << colours.reset << sentence << '\n';
 }
 
+nlohmann::ordered_json DiagnosticJson(Severity severity, Place place, const std::string& sentence) {
+  nlohmann::ordered_json json{{"severity", NameOf(severity)}};
+  if (place.line != 0) {
+    json["line"] = place.line;
+    json["column"] = place.column;
+  }
+  json["message"] = sentence;
+  return json;
+}
+
 void PrintError(const std::string& file, std::string_view sentence) {
   std::cout.flush();
   PrintHead(std::cerr, Severity::Error, file, {}, sentence);

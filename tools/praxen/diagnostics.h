@@ -4,6 +4,7 @@
 #define PRAXEN_TOOLS_PRAXEN_DIAGNOSTICS_H_
 
 #include <cstdint>
+#include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -32,6 +33,9 @@ std::string_view NameOf(Severity severity);
 /// Prints "FILE:LINE:COLUMN: warning: …", without the place when its line is 0.
 void PrintHead(std::ostream& stream, Severity severity, const std::string& file, Place place,
                std::string_view sentence);
+
+/// The same as JSON: "severity", "line" and "column" unless the line is 0, "message".
+nlohmann::ordered_json DiagnosticJson(Severity severity, Place place, const std::string& sentence);
 
 /// The lines of a text; quick for places that are asked for in their order.
 class SourceLines {

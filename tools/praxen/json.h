@@ -9,9 +9,12 @@
 namespace praxen::detail {
 
 /// The members of a JSON object that are no properties: the class of the object, and the elements
-/// of a list. The published name of a property is an identifier, so none begins with "$".
+/// of a list; of a document also its file, or that and the error that reading it gave. The
+/// published name of a property is an identifier, so none begins with "$".
 inline constexpr const char* kJsonClass = "$class";
 inline constexpr const char* kJsonElements = "$elements";
+inline constexpr const char* kJsonFile = "$file";
+inline constexpr const char* kJsonError = "$error";
 
 /// Which properties are told.
 enum class JsonContent : bool { Changed, All };

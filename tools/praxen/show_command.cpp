@@ -4,9 +4,11 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "praxen/factory/read_document.h"
+#include "tools/praxen/diagnostics.h"
 #include "tools/praxen/documents.h"
 #include "tools/praxen/json.h"
 #include "tools/praxen/outline.h"
@@ -22,21 +24,38 @@ struct ShowOptions {
   bool json = false, all = false;
 };
 
+void PrintJson(const Document& document, nlohmann::ordered_json content, Output& output) {
+  nlohmann::ordered_json json{{kJsonFile, document.file}};
+  for (auto& [name, value] : content.get_ref<nlohmann::ordered_json::object_t&>()) {
+    json[name] = std::move(value);
+  }
+  output.out << JsonLine(json);
+}
+
 int Show(const ShowOptions& options) {
   const Colours colours(stdout);
   const JsonContent content = options.all ? JsonContent::All : JsonContent::Changed;
-  return ForEachDocument(*options.files, {[&](const Document& document, Output& output) {
+  DocumentWork work;
+  work.run = [&](const Document& document, Output& output) {
     Losses losses;
     const Ref<Object> object = ReadDocument(document.text, &losses);
     WarnOfLosses(document, losses, output);
     if (options.json) {
-      output.out << JsonLine(ToJson(*object, content));
+      PrintJson(document, ToJson(*object, content), output);
       return true;
     }
     if (!document.isOnly) output.out << colours.bold << document.name << colours.reset << '\n';
     PrintOutline(*object, options.depth, colours, output.out);
     return true;
-  }});
+  };
+  if (options.json) {
+    work.fail = [](const Document& document, const Error& error, Output& output) {
+      const std::string sentence = ToUtf8(SentenceOf(error));
+      PrintJson(document, {{kJsonError, DiagnosticJson(Severity::Error, error.place(), sentence)}},
+                output);
+    };
+  }
+  return ForEachDocument(*options.files, work);
 }
 
 }  // namespace
@@ -52,8 +71,9 @@ void AddShowCommand(CLI::App& app, int& exitCode) {
   CLI::Option* const json =
       command
           ->add_flag("--json", options->json,
-                     "One line of JSON for each document; \"$class\" is the class of an object, "
-                     "\"$elements\" what a list holds")
+                     "One line of JSON for each document; \"$file\" is its name, \"$error\" why it "
+                     "cannot be read, \"$class\" the class of an object, \"$elements\" what a list "
+                     "holds")
           ->excludes(depth);
   command
       ->add_flag("--all", options->all, "In JSON also the properties that a new object holds alike")
