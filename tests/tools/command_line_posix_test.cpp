@@ -511,9 +511,14 @@ TEST_F(CommandLine, AnotherSchemaIsUsedWhenAskedFor) {
 }
 
 TEST_F(CommandLine, ProgressIsShownOnATerminal) {
-  const std::string command = "script -qec \"sleep 1 | '" PRAXEN_COMMAND_LINE_FILE
-                              "' check -\" /dev/null </dev/null >" +
-                              Quoted(File("terminal"));
+  // The document comes after the progress, which is waited for a minute at most.
+  const std::string command =
+      "cd " + Quoted(File("")) +
+      " && mkfifo pipe && exec 3<>pipe && : >terminal || exit; "
+      "script -qefc \"'" PRAXEN_COMMAND_LINE_FILE
+      "' check pipe\" /dev/null </dev/null 3<&- >terminal & "
+      "for i in $(seq 600); do grep -q 'KiB read' terminal && break; sleep 0.1; done; "
+      "echo '<Odd/>' >&3; exec 3>&-; wait";
   std::system(command.c_str());
   const std::string shown = ReadFile(File("terminal"));
   const size_t progress = shown.find("\rpraxen: 0 of 1 files, 0 KiB read\x1b[K");
