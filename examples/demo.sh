@@ -44,8 +44,8 @@ iconv -f UTF-16 -t UTF-8 plant/pump.xml
 
 heading "2. The command line reads the documents"
 cat <<'END'
-"check" validates a document and reads it, writes what it has read, reads and writes that again,
-and tells whether both texts are the same.
+"check" validates a document and reads it, tells what of it would be lost, writes what it has read,
+reads and writes that again, and tells whether both texts are the same.
 END
 run check plant/level_control.xml plant/start_sequence.xml plant/hardware.xml
 
