@@ -1,14 +1,17 @@
 // Compiling the schema, and driving the parser over a text.
 #include "praxen/xml/xml_engine.h"
 
+#include <algorithm>
 #include <new>
 #include <string>
 #include <utility>
+#include <vector>
 #include <xercesc/framework/MemBufInputSource.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
 #include <xercesc/util/SynchronizedStringPool.hpp>
 #include <xercesc/util/XMLResourceIdentifier.hpp>
 #include <xercesc/util/XMLUni.hpp>
+#include <xercesc/validators/common/ContentSpecNode.hpp>
 #include <xercesc/validators/common/Grammar.hpp>
 #include <xercesc/validators/schema/ComplexTypeInfo.hpp>
 #include <xercesc/validators/schema/SchemaGrammar.hpp>
@@ -53,6 +56,36 @@ auto WithMemory(Work work) {
   }
 }
 
+// The particles of a content model, of which one that may occur more than once takes so many as it
+// has to or may. Xerces counts those of elements instead where none of a group is optional or may
+// occur more than once. Ends when there are too many.
+size_t CountParticles(const xercesc::ContentSpecNode& content) {
+  struct Part {
+    const xercesc::ContentSpecNode* node;
+    size_t times;
+  };
+  size_t particles = 0, counted = 0;
+  bool isSimple = true;
+  std::vector<Part> parts{{&content, 1}};
+  while (!parts.empty() && particles <= kMaxXmlSchemaParticles) {
+    const auto [node, times] = parts.back();
+    parts.pop_back();
+    if (node == nullptr) continue;
+    const int least = node->getMinOccurs(), most = node->getMaxOccurs();
+    const auto occurrences = static_cast<size_t>(std::max({least, most, 1}));
+    const size_t all = std::min(times * occurrences, kMaxXmlSchemaParticles + 1);
+    if (node->getFirst() == nullptr && node->getSecond() == nullptr) {
+      ++particles;
+      counted = std::min(counted + all, kMaxXmlSchemaParticles + 1);
+      continue;
+    }
+    isSimple = isSimple && least == 1 && most == 1;
+    parts.push_back({node->getFirst(), all});
+    parts.push_back({node->getSecond(), all});
+  }
+  return isSimple ? particles : counted;
+}
+
 // Runs the parser; the error that it ended with is left to `explain`.
 template <class Parse, class Explain>
 XmlParseError Run(Parse parse, Explain explain) {
@@ -75,7 +108,7 @@ void XmlGrammarPool::RenewNamespaces() {
                                                                      getMemoryManager());
 }
 
-void XmlGrammarPool::CompleteTypes() {
+void XmlGrammarPool::CompleteTypes(XmlReporter& reporter) {
   for (auto all = getGrammarEnumerator(); all.hasMoreElements();) {
     auto& grammar = dynamic_cast<xercesc::SchemaGrammar&>(all.nextElement());
     xercesc::RefHashTableOfEnumerator<xercesc::ComplexTypeInfo> types(
@@ -85,7 +118,15 @@ void XmlGrammarPool::CompleteTypes() {
       const int content = type.getContentType();
       const bool hasModel = content == xercesc::SchemaElementDecl::Children ||
                             content == xercesc::SchemaElementDecl::Mixed_Complex;
-      if (hasModel && type.getContentSpec() != nullptr) type.getContentModel();
+      if (!hasModel || type.getContentSpec() == nullptr) continue;
+      if (CountParticles(*type.getContentSpec()) > kMaxXmlSchemaParticles) {
+        reporter.Refuse(
+            u"the content of one type has too many particles, each counted as often as "
+            u"it may occur; at most " +
+                DecimalText(kMaxXmlSchemaParticles) + u" are allowed",
+            {});
+      }
+      type.getContentModel();
     }
   }
 }
@@ -165,7 +206,7 @@ void XmlEngine::Compile(const XmlSchemaSource& schema) {
   if (grammar == nullptr || grammar->getTargetNamespace() != schema.targetNamespace) {
     reporter_.Refuse(u"the target namespace is not '" + schema.targetNamespace + u"'", {});
   }
-  pool_.CompleteTypes();
+  pool_.CompleteTypes(reporter_);
 }
 
 void XmlEngine::Parse(std::u16string_view text, XmlTree& tree) {

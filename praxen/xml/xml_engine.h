@@ -46,8 +46,8 @@ class XmlGrammarPool final : public xercesc::XMLGrammarPoolImpl {
   using XMLGrammarPoolImpl::XMLGrammarPoolImpl;
 
   /// Makes what Xerces leaves to the first element of a type, so that no document has to wait for
-  /// it.
-  void CompleteTypes();
+  /// it. What would take too long is told to the reporter.
+  void CompleteTypes(XmlReporter& reporter);
   /// Puts a pool that has the namespaces of the schema alone in the place of the one before.
   void RenewNamespaces();
   xercesc::XMLStringPool* getURIStringPool() override {

@@ -43,7 +43,11 @@ inline constexpr size_t kMaxXmlAddedDeclarationsPerCharacter = 10;
 /// files, and how many bytes may be asked for while it is compiled, which bounds the time too.
 inline constexpr size_t kMaxXmlSchemaSize = 10'000'000;
 inline constexpr size_t kMaxXmlSchemaFiles = 100;
-inline constexpr size_t kMaxXmlSchemaMemory = 500'000'000;
+inline constexpr size_t kMaxXmlSchemaMemory = 50'000'000;
+
+/// How many particles the content of one type of a schema may have, each counted as often as it may
+/// occur: the time for the automaton of the type grows faster than they do.
+inline constexpr size_t kMaxXmlSchemaParticles = 500;
 
 /// The length of a document in UTF-16 units.
 inline constexpr size_t kMaxXmlDocumentLength = 500'000'000;

@@ -446,11 +446,25 @@ std::string NestedGroups(int depth) {
          std::to_string(depth) + "'/></xs:complexType></xs:element>";
 }
 
+// A type with six particles that may occur so many times.
+std::string Repeated(int times) {
+  return "<xs:element name='Many'><xs:complexType><xs:sequence minOccurs='0' maxOccurs='" +
+         std::to_string(times) +
+         "'><xs:element name='a' minOccurs='0' maxOccurs='3'/><xs:element name='b' minOccurs='0' "
+         "maxOccurs='3'/></xs:sequence></xs:complexType></xs:element>";
+}
+
 TEST(XmlDocument, TellsWhyASchemaCannotBeUsed) {
   const std::string many =
       "<xs:element name='Many'><xs:complexType><xs:sequence><xs:choice minOccurs='300000' "
       "maxOccurs='300000'><xs:element name='a'/><xs:element name='b'/></xs:choice></xs:sequence>"
       "</xs:complexType></xs:element>";
+  // For which the automaton has to remember the last hundred elements.
+  const std::string ambiguous =
+      "<xs:element name='Many'><xs:complexType><xs:sequence><xs:choice minOccurs='0' "
+      "maxOccurs='unbounded'><xs:element name='a'/><xs:element name='b'/></xs:choice>"
+      "<xs:element name='a'/><xs:choice minOccurs='100' maxOccurs='100'><xs:element name='a'/>"
+      "<xs:element name='b'/></xs:choice></xs:sequence></xs:complexType></xs:element>";
   const std::string odd =
       std::string(kSchema).replace(std::string(kSchema).find("xs:int"), 6, "xs:odd");
   const struct {
@@ -470,7 +484,13 @@ TEST(XmlDocument, TellsWhyASchemaCannotBeUsed) {
       {SchemaWith("<xs:include schemaLocation='dtd.xsd'/>"), "(line 1, column 1 of 'dtd.xsd')"},
       {SchemaWith("<xs:include schemaLocation='bad.xsd'/>"), "of 'bad.xsd')"},
       {SchemaWith("<xs:include schemaLocation='large.xsd'/>"), "it is too large"},
-      {SchemaWith(many), "it takes too much to compile"},
+      {SchemaWith(many), "too many particles"},
+      {SchemaWith(Repeated(84)),
+       "too many particles, each counted as often as it may occur; at "
+       "most 500 are allowed"},
+      {SchemaWith(Repeated(3000)), "too many particles"},
+      {SchemaWith(NestedGroups(3)), "too many particles"},
+      {SchemaWith(ambiguous), "it takes too much to compile"},
       {SchemaWith(NestedGroups(9)), "it takes too much to compile"},
       {"<?xml version='1.0' encoding='EBCDIC'?>" + InSchema(""), "encoding 'EBCDIC' is not known"},
       {InSchema("<!-- \xE9 -->"), "it is not in UTF-8"},
@@ -502,6 +522,10 @@ TEST(XmlDocument, ReadsASchemaWithTheFilesBesideIt) {
     wide += {c, '\0'};
   }
   EXPECT_EQ(SchemaFault(wide), "");
+  EXPECT_EQ(SchemaFault(SchemaWith(Repeated(83))), "");
+  EXPECT_EQ(SchemaFault(SchemaWith("<xs:complexType name='Counted'><xs:sequence><xs:element "
+                                   "name='a' maxOccurs='3000'/></xs:sequence></xs:complexType>")),
+            "");
 }
 
 TEST(XmlDocument, TellsWhetherTheRootIsDeclared) {
