@@ -43,7 +43,7 @@ inline constexpr size_t kMaxXmlAddedDeclarationsPerCharacter = 10;
 /// files, and how many bytes may be asked for while it is compiled, which bounds the time too.
 inline constexpr size_t kMaxXmlSchemaSize = 10'000'000;
 inline constexpr size_t kMaxXmlSchemaFiles = 100;
-inline constexpr size_t kMaxXmlSchemaMemory = 50'000'000;
+inline constexpr size_t kMaxXmlSchemaMemory = 20'000'000;
 
 /// How many particles the content of one type of a schema may have, each counted as often as it may
 /// occur: the time for the automaton of the type grows faster than they do.
