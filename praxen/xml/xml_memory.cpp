@@ -17,6 +17,10 @@ namespace {
 // The least that a request takes from a budget.
 constexpr size_t kSmallestCount = 64;
 
+// How far small requests may overdraw a budget: one may be of a destructor, which cannot fail, so
+// that it is left to a larger one to do so.
+constexpr int64_t kOverdraft = 4'000'000;
+
 // Whether a request is for a reader with its buffers, before which Xerces notes who gave the
 // memory.
 bool IsReader(size_t size) {
@@ -36,7 +40,8 @@ XmlMemory::~XmlMemory() {
 
 void* XmlMemory::allocate(XMLSize_t size) {
   budget_ -= static_cast<int64_t>(std::max(size, kSmallestCount));
-  if (budget_ < 0 && !MustSucceed()) throw xercesc::OutOfMemoryException();
+  const int64_t least = size <= kSmallRequest ? -kOverdraft : 0;
+  if (budget_ < least && !MustSucceed()) throw xercesc::OutOfMemoryException();
   const bool isReader = IsReader(size);
   void* memory = isReader ? std::exchange(spareReader_, nullptr) : nullptr;
   if (memory == nullptr) memory = FromSystem(size);
