@@ -75,7 +75,7 @@ const CLI::Option* FindOption(const CLI::App& command, const std::string& argume
 // Whether the value of the option is the argument that follows.
 bool TakesNext(const CLI::Option* option, const std::string& argument) {
   const bool isLong = argument.starts_with("--");
-  const bool hasValue = isLong ? argument.find('=') != argument.npos : argument.size() > 2;
+  const bool hasValue = isLong ? argument.find('=') != std::string::npos : argument.size() > 2;
   return option != nullptr && option->get_items_expected_max() > 0 && !hasValue;
 }
 
