@@ -202,27 +202,32 @@ DWORD WINAPI UseOnThread(void* argument) {
   return 0;
 }
 
-// Two threads with apartments of their own, and two that share one and whose calls the system sends
-// to where the objects are. The latter only where the library is registered: with two such threads
-// and classes of a manifest Wine 8 now and then jumps to freed memory while it marshals.
-void UseThreads(const std::wstring& manifest) {
-  std::vector<DWORD> apartments{COINIT_APARTMENTTHREADED};
-  if (manifest.empty()) apartments.push_back(COINIT_MULTITHREADED);
-  std::vector<ThreadUse> uses;
-  for (const DWORD apartment : apartments) {
-    for (const char16_t* const name : {u"First", u"TheSecond"}) {
-      uses.push_back({apartment, name, WriteAndRead(name), manifest});
-    }
-  }
+// Runs threads at the same time and waits for their ends; this thread's apartment may be called
+// meanwhile.
+void RunTogether(std::vector<ThreadUse> uses) {
   std::vector<HANDLE> threads;
   for (ThreadUse& use : uses) {
     threads.push_back(CreateThread(nullptr, 0, &UseOnThread, &use, 0, nullptr));
   }
   for (HANDLE& thread : threads) {
-    // This thread's apartment may be called meanwhile.
     DWORD index = 0;
     Check("end of a thread", CoWaitForMultipleHandles(0, INFINITE, 1, &thread, &index) == S_OK);
     CloseHandle(thread);
+  }
+}
+
+// Two threads with apartments of their own at once, and two, one after the other, of the apartment
+// whose calls the system sends to where the objects are: when two threads of that one marshal at
+// the same time, Wine 8 now and then jumps to memory that it has freed. Only where the library is
+// registered: the system keeps what it loads for the latter until the process ends.
+void UseThreads(const std::wstring& manifest) {
+  const auto use = [&](DWORD apartment, const char16_t* name) {
+    return ThreadUse{apartment, name, WriteAndRead(name), manifest};
+  };
+  RunTogether({use(COINIT_APARTMENTTHREADED, u"First"), use(COINIT_APARTMENTTHREADED, u"Second")});
+  if (!manifest.empty()) return;
+  for (const char16_t* const name : {u"Third", u"TheFourth"}) {
+    RunTogether({use(COINIT_MULTITHREADED, name)});
   }
 }
 
