@@ -3,6 +3,7 @@
 #define PRAXEN_FACTORY_DOCUMENT_BYTES_H_
 
 #include <cstddef>
+#include <filesystem>
 #include <functional>
 #include <istream>
 #include <optional>
@@ -17,6 +18,10 @@ namespace praxen::detail {
 /// `InvalidXml` as soon as they are more than a document may have. An error of the stream ends
 /// them.
 std::string ReadDocumentBytes(std::istream& stream,
+                              const std::function<void(size_t count)>& report = {});
+
+/// The same for a file; raises std::filesystem::filesystem_error when it cannot be read.
+std::string ReadDocumentBytes(const std::filesystem::path& file,
                               const std::function<void(size_t count)>& report = {});
 
 struct DecodedDocument {

@@ -23,17 +23,6 @@ namespace fs = std::filesystem;
   throw fs::filesystem_error(what, file, std::error_code(error, std::generic_category()));
 }
 
-std::string ReadBytes(const fs::path& file) {
-  std::error_code unknown;
-  if (fs::is_directory(file, unknown)) Fail("cannot read", file, EISDIR);
-  errno = 0;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) Fail("cannot read", file, errno);
-  std::string bytes = ReadDocumentBytes(stream);
-  if (stream.bad()) Fail("cannot read", file, errno);
-  return bytes;
-}
-
 void WriteBytes(const fs::path& file, std::string_view bytes) {
   errno = 0;
   std::ofstream stream(file, std::ios::binary);
@@ -76,6 +65,18 @@ void Replace(const fs::path& file, std::string_view bytes, const fs::file_status
 
 }  // namespace
 
+std::string ReadDocumentBytes(const fs::path& file,
+                              const std::function<void(size_t count)>& report) {
+  std::error_code unknown;
+  if (fs::is_directory(file, unknown)) Fail("cannot read", file, EISDIR);
+  errno = 0;
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) Fail("cannot read", file, errno);
+  std::string bytes = ReadDocumentBytes(stream, report);
+  if (stream.bad()) Fail("cannot read", file, errno);
+  return bytes;
+}
+
 }  // namespace praxen::detail
 
 namespace praxen {
@@ -83,7 +84,7 @@ namespace praxen {
 using namespace detail;
 
 Text LoadDocument(const std::filesystem::path& file) {
-  const DecodedDocument decoded = DecodeDocument(ReadBytes(file));
+  const DecodedDocument decoded = DecodeDocument(ReadDocumentBytes(file));
   if (decoded.malformed) {
     const XmlParseError error = MakeXmlError(u"The bytes do not encode a character.",
                                              PlaceAt(decoded.text, *decoded.malformed));

@@ -2,7 +2,6 @@
 #include "tools/praxen/document_text.h"
 
 #include <cerrno>
-#include <fstream>
 #include <iostream>
 #include <system_error>
 
@@ -11,12 +10,6 @@
 namespace praxen::detail {
 
 namespace {
-
-std::string ReadStream(std::istream& stream, Progress& progress) {
-  std::string bytes = ReadDocumentBytes(stream, [&](size_t count) { progress.AddBytes(count); });
-  if (stream.bad()) throw std::system_error(errno, std::generic_category());
-  return bytes;
-}
 
 void Print(const std::string& bytes) {
   errno = 0;
@@ -31,16 +24,11 @@ std::filesystem::path PathOf(const std::string& name) {
 }
 
 std::string ReadBytes(const std::string& name, Progress& progress) {
-  if (name == "-" || name == "/dev/stdin") return ReadStream(std::cin, progress);
-  const std::filesystem::path path = PathOf(name);
-  std::error_code unknown;
-  if (std::filesystem::is_directory(path, unknown)) {
-    throw std::system_error(std::make_error_code(std::errc::is_a_directory));
-  }
-  errno = 0;
-  std::ifstream stream(path, std::ios::binary);
-  if (!stream) throw std::system_error(errno, std::generic_category());
-  return ReadStream(stream, progress);
+  const auto report = [&](size_t count) { progress.AddBytes(count); };
+  if (name != "-" && name != "/dev/stdin") return ReadDocumentBytes(PathOf(name), report);
+  std::string bytes = ReadDocumentBytes(std::cin, report);
+  if (std::cin.bad()) throw std::system_error(errno, std::generic_category());
+  return bytes;
 }
 
 void WriteDocument(const std::string& name, const Text& document, Encoding encoding) {
