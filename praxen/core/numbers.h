@@ -45,6 +45,17 @@ int32_t TextToInteger(std::u16string_view text);
 /// for a text that is no number and `Overflow` for one beyond a double.
 double XMLTextToDouble(std::u16string_view text);
 
+/// The same for the numbers of one document, for which the separator is asked for once.
+class XMLNumbers {
+ public:
+  double ToDouble(std::u16string_view text);
+  /// Ends the document.
+  void Clear() noexcept { isSeparatorLegal_ = false; }
+
+ private:
+  bool isSeparatorLegal_ = false;
+};
+
 }  // namespace praxen::detail
 
 #endif  // PRAXEN_CORE_NUMBERS_H_

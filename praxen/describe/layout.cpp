@@ -38,6 +38,11 @@ void CompleteAttribute(Attribute& attribute, Object& created) {
                         [&](const int32_t& number) { attribute.absentNumber = number; }});
 }
 
+bool IsEmptiedByAbsence(const Attribute& attribute, Object& created) {
+  return attribute.rule == Rule::UnlessEmpty && attribute.type.kind == ValueKind::Text &&
+         !static_cast<const Text*>(ValueOf(attribute, created))->empty();
+}
+
 void CompleteChild(Child& child, Object& created) {
   if (child.storage != nullptr) {
     child.offset = OffsetIn(created, child.storage(created));
@@ -54,8 +59,12 @@ void CompleteChild(Child& child, Object& created) {
 
 Layout CompleteLayout(Layout layout, std::u16string element, Object& created) {
   layout.element = std::move(element);
+  uint64_t bit = 1;
   for (Attribute& attribute : layout.attributes) {
     CompleteAttribute(attribute, created);
+    if (attribute.isRequired()) layout.givenAttributes |= bit;
+    if (IsEmptiedByAbsence(attribute, created)) layout.emptiedAttributes |= bit;
+    bit <<= 1;
     if (attribute.rule == Rule::Required && attribute.type.kind == ValueKind::Text) {
       layout.requiredTexts.push_back(attribute.offset);
     }

@@ -40,6 +40,11 @@ enum class Rule : uint8_t {
 };
 
 struct Attribute {
+  /// Whether an element without it is invalid.
+  bool isRequired() const {
+    return (rule == Rule::Required || rule == Rule::Always) && !readIfPresent;
+  }
+
   std::u16string name;
   Rule rule = Rule::Always;
   ValueType type;
@@ -110,7 +115,7 @@ struct Child {
   std::u16string inner = {};
   void (*writeXML)(Object& object, XMLStringWriter& writer) = nullptr;
   /// Moves the cursor past what it reads.
-  void (*readXML)(Object& object, XmlNode& cursor) = nullptr;
+  void (*readXML)(Object& object, XmlCursor& cursor) = nullptr;
   /// The name of the element of the list's or object's class.
   std::u16string (*elementName)() = nullptr;
   /// The elements of a custom child, and what they hold in a sentence.
@@ -157,6 +162,10 @@ struct Layout {
 
   /// Of the attributes that must not be empty, in bytes from the start of the object.
   std::vector<std::ptrdiff_t> requiredTexts = {};
+  /// Those that have to be given, and those whose absence empties a text that is not empty in a new
+  /// object: a bit for each attribute, in their order.
+  uint64_t givenAttributes = 0;
+  uint64_t emptiedAttributes = 0;
 };
 
 /// The value that lies so many bytes after the start of an object.
@@ -307,7 +316,7 @@ struct OwnerOf<T C::*> {
 };
 
 /// Children that the class writes and reads itself, with `void Write(XMLStringWriter&)` and
-/// `void Read(XmlNode& cursor)`, which moves the cursor past what it reads.
+/// `void Read(XmlCursor& cursor)`, which moves the cursor past what it reads.
 template <auto Write, auto Read>
 Child custom(std::string_view explanation, std::vector<ElementShape> shapes) {
   Child child{ChildKind::Custom};
@@ -315,7 +324,7 @@ Child custom(std::string_view explanation, std::vector<ElementShape> shapes) {
   child.writeXML = [](Object& object, XMLStringWriter& writer) {
     (static_cast<typename detail::OwnerOf<decltype(Write)>::type&>(object).*Write)(writer);
   };
-  child.readXML = [](Object& object, XmlNode& cursor) {
+  child.readXML = [](Object& object, XmlCursor& cursor) {
     (static_cast<typename detail::OwnerOf<decltype(Read)>::type&>(object).*Read)(cursor);
   };
   child.explanation = explanation;

@@ -27,6 +27,7 @@ struct StorageAccess;
 namespace praxen::detail {
 
 class XMLStringWriter;
+class XmlCursor;
 class XmlNode;
 
 /// What an automation client's interface pointer points to: a table of functions in slot order.

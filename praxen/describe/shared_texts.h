@@ -7,18 +7,14 @@
 #include <string_view>
 
 #include "praxen/core/text.h"
-#include "praxen/core/thread_state.h"
 
 namespace praxen::describe {
 
 /// The short texts met last, so that the names of types and tasks, which repeat all over a
 /// document, are stored once. Only a text that equals an earlier one is shared; which ones are
 /// remembered changes nothing but memory.
-class SharedTexts final : public KeptByThread {
+class SharedTexts {
  public:
-  /// Those of the document that the thread is reading.
-  static SharedTexts& Instance() { return ThreadState::Current().Keep<SharedTexts>(); }
-
   Text Share(std::u16string_view characters);
   void Clear() noexcept;
 

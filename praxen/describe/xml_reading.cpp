@@ -6,34 +6,17 @@
 #include "praxen/describe/description.h"
 #include "praxen/describe/loss_recording.h"
 #include "praxen/describe/reflection.h"
-#include "praxen/describe/shared_texts.h"
+#include "praxen/xml/xml_cursor.h"
+#include "praxen/xml/xml_markup.h"
 
 namespace praxen::describe {
 
 namespace {
 
-bool TextToBoolean(std::u16string_view text) { return text == u"1" || text == u"true"; }
-
-void SetText(Text& value, std::u16string_view text) {
-  // Most attributes hold what a new object holds.
-  if (value.view() != text) value = SharedTexts::Instance().Share(text);
-}
-
 Error MissingAttribute(const XmlNode& node, std::u16string_view name) {
   return MissingObject(u"The attribute \""_text + name + u"\" of \"" + node.nodeName() +
                        u"\" is missing")
       .At(node.place());
-}
-
-void SetValue(const Attribute& attribute, void* value, std::u16string_view text) {
-  VisitValue(attribute.type, value,
-             Overloaded{[&](Text& held) { SetText(held, text); },
-                        [&](bool& isTrue) { isTrue = TextToBoolean(text); },
-                        [&](const EnumerationValue<int32_t>& constant) {
-                          constant.number = constant.description.FromText(text);
-                        },
-                        [&](double& number) { number = XMLTextToDouble(text); },
-                        [&](int32_t& number) { number = TextToInteger(text); }});
 }
 
 std::u16string_view ExpectedOf(const Attribute& attribute) {
@@ -59,7 +42,7 @@ Error ConversionError(const Error& error, const Attribute& attribute, const XmlN
     throw MissingAttribute(node, attribute.name);
   }
   try {
-    SetValue(attribute, ValueOf(attribute, object), found->value());
+    SetValue(attribute, object, found->value(), DocumentValues::Instance());
   } catch (const Error& error) {
     throw ConversionError(error, attribute, node, found->value()).At(node.place());
   }
@@ -72,12 +55,89 @@ Error ConversionError(const Error& error, const Attribute& attribute, const XmlN
   if (node.recorder() != nullptr) RecordText(value, child, node);
 }
 
+Error MissingContent(const XmlNode& node) {
+  return MissingObject(u"The content of \""_text + node.nodeName() + u"\" is missing")
+      .At(node.place());
+}
+
+// What a class reads itself, out of nodes.
+class NodeCursor final : public XmlCursor {
+ public:
+  explicit NodeCursor(const XmlNode& node) : node_(node) {}
+
+  XmlNode node() const override { return node_; }
+  std::u16string_view name() override { return node_.nodeName(); }
+
+  bool isAtEnd() override {
+    return !node_ || (node_.kind() == XmlNodeKind::Text && IsXmlBlank(node_.nodeValue()));
+  }
+
+  std::u16string_view ReadAttribute(std::u16string_view name) override {
+    const XmlAttribute* const attribute = node_.attribute(name);
+    if (attribute == nullptr) throw MissingAttribute(node_, name);
+    if (node_.recorder() != nullptr) node_.recorder()->Take(*attribute);
+    return attribute->value();
+  }
+
+  bool ReadBoolean(std::u16string_view name) override {
+    const bool isTrue = TextToBoolean(ReadAttribute(name));
+    if (node_.recorder() != nullptr) RecordBoolean(isTrue, node_, *node_.attribute(name));
+    return isTrue;
+  }
+
+  std::u16string_view ReadText() override {
+    const std::u16string_view text = FirstText(node_);
+    node_ = node_.nextSibling();
+    return text;
+  }
+
+  std::u16string_view ReadRequiredText(std::u16string_view name) override {
+    if (node_.recorder() != nullptr) node_.recorder()->ReadAs(node_, name);
+    const XmlNode node = node_;
+    const std::u16string_view text = ReadText();
+    if (text.empty()) throw MissingContent(node);
+    return text;
+  }
+
+  Text ReadMarkup(std::u16string_view owner) override {
+    const Text markup = node_.Markup();
+    if (node_.recorder() != nullptr) node_.recorder()->TakeMarkup(node_, owner);
+    node_ = node_.nextSibling();
+    return markup;
+  }
+
+  void Enter() override {
+    entered_.push_back(node_);
+    node_ = node_.firstChild();
+  }
+
+  void RequireChildren(size_t count) override {
+    if (!entered_.back().childNode(count - 1)) throw MissingContent(entered_.back());
+  }
+
+  void Leave() override {
+    node_ = entered_.back().nextSibling();
+    entered_.pop_back();
+  }
+
+ private:
+  XmlNode node_;
+  std::vector<XmlNode> entered_;
+};
+
+[[gnu::noinline]] void ReadWithCursor(Object& object, const Child& child, XmlNode& node) {
+  NodeCursor cursor(node);
+  child.readXML(object, cursor);
+  node = cursor.node();
+}
+
 void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNode& cursor) {
   switch (child.kind) {
     case ChildKind::Custom:
-      return child.readXML(object, cursor);
+      return ReadWithCursor(object, child, cursor);
     case ChildKind::Content:
-      SetText(*static_cast<Text*>(ValueOf(child, object)), FirstText(parent));
+      SetText(*static_cast<Text*>(ValueOf(child, object)), FirstText(parent),
+              DocumentValues::Instance());
       return;
     case ChildKind::Items:
       ReadItems(*Held(object, child), child.type.object().layout(), cursor);
@@ -103,17 +163,21 @@ void ReadChild(Object& object, const Child& child, const XmlNode& parent, XmlNod
 
 }  // namespace
 
-std::u16string_view RequiredAttribute(const XmlNode& node, std::u16string_view name) {
-  const XmlAttribute* const attribute = node.attribute(name);
-  if (attribute == nullptr) throw MissingAttribute(node, name);
-  if (node.recorder() != nullptr) node.recorder()->Take(*attribute);
-  return attribute->value();
+void SetText(Text& value, std::u16string_view text, DocumentValues& values) {
+  // Most attributes hold what a new object holds.
+  if (value.view() != text) value = values.texts.Share(text);
 }
 
-bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name) {
-  const bool isTrue = TextToBoolean(RequiredAttribute(node, name));
-  if (node.recorder() != nullptr) RecordBoolean(isTrue, node, *node.attribute(name));
-  return isTrue;
+void SetValue(const Attribute& attribute, Object& object, std::u16string_view text,
+              DocumentValues& values) {
+  VisitValue(attribute.type, ValueOf(attribute, object),
+             Overloaded{[&](Text& held) { SetText(held, text, values); },
+                        [&](bool& isTrue) { isTrue = TextToBoolean(text); },
+                        [&](const EnumerationValue<int32_t>& constant) {
+                          constant.number = constant.description.FromText(text);
+                        },
+                        [&](double& number) { number = values.numbers.ToDouble(text); },
+                        [&](int32_t& number) { number = TextToInteger(text); }});
 }
 
 std::u16string_view FirstText(const XmlNode& node) {

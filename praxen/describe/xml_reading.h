@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "praxen/core/error.h"
+#include "praxen/describe/document_values.h"
 #include "praxen/describe/layout.h"
 #include "praxen/describe/object.h"
 #include "praxen/xml/xml_document.h"
@@ -18,11 +19,13 @@ void ReadElement(Object& object, const Layout& layout, const XmlNode& node);
 /// like one of the list's classes; the others are skipped.
 void ReadItems(Object& list, const Layout& layout, XmlNode first);
 
-/// The value of an attribute; raises `MissingObject` when it is absent.
-std::u16string_view RequiredAttribute(const XmlNode& node, std::u16string_view name);
+/// Gives an object the value of one of its attributes; raises what converting the text raises.
+void SetValue(const Attribute& attribute, Object& object, std::u16string_view text,
+              DocumentValues& values);
+void SetText(Text& value, std::u16string_view text, DocumentValues& values);
 
-/// Whether the attribute is exactly "1" or "true".
-bool ReadBoolAttribute(const XmlNode& node, std::u16string_view name);
+/// What a text means where true or false is expected.
+inline bool TextToBoolean(std::u16string_view text) { return text == u"1" || text == u"true"; }
 
 /// The text of an element's first child, which is all that an element of text holds.
 std::u16string_view FirstText(const XmlNode& node);

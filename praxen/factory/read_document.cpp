@@ -7,6 +7,7 @@
 #include "praxen/core/error.h"
 #include "praxen/describe/reflection.h"
 #include "praxen/factory/classes.h"
+#include "praxen/factory/direct_reading.h"
 #include "praxen/factory/object_factory.h"
 #include "praxen/factory/reading_frame.h"
 
@@ -47,11 +48,16 @@ size_t CountUnknown(const Layout& layout, const XmlNode& root) {
   return unknown;
 }
 
+std::vector<const ClassDescription*> ClassesOfRoot(std::u16string_view root) {
+  std::vector<const ClassDescription*> classes;
+  std::ranges::copy_if(
+      DocumentClasses(), std::back_inserter(classes),
+      [&](const ClassDescription* each) { return each->layout().element == root; });
+  return classes;
+}
+
 const ClassDescription& ClassOf(const XmlNode& root) {
-  std::vector<const ClassDescription*> candidates;
-  for (const ClassDescription* const candidate : DocumentClasses()) {
-    if (candidate->layout().element == root.nodeName()) candidates.push_back(candidate);
-  }
+  const std::vector<const ClassDescription*> candidates = ClassesOfRoot(root.nodeName());
   if (candidates.empty()) {
     throw WrongRootElement(root.nodeName(), u"a document of the exchange format").At(root.place());
   }
@@ -62,6 +68,11 @@ const ClassDescription& ClassOf(const XmlNode& root) {
 }
 
 }  // namespace
+
+const ClassDescription* OnlyDocumentClass(std::u16string_view root) {
+  const std::vector<const ClassDescription*> classes = ClassesOfRoot(root);
+  return classes.size() == 1 ? classes.front() : nullptr;
+}
 
 const std::vector<const ClassDescription*>& DocumentClasses() {
   static const std::vector<const ClassDescription*> classes = FindDocumentClasses();
@@ -75,6 +86,9 @@ namespace praxen {
 using namespace detail;
 
 Ref<Object> ReadDocument(const Text& text, Losses* losses) {
+  if (losses == nullptr && UsesDirectReading()) {
+    if (Ref<Object> object = ReadDirectly(text)) return object;
+  }
   const LoadedDocument document(text);
   const ClassDescription& description = ClassOf(document.root());
   // Raises an error when the root has the right name in a wrong namespace.

@@ -2,6 +2,7 @@
 #ifndef PRAXEN_FACTORY_READ_DOCUMENT_H_
 #define PRAXEN_FACTORY_READ_DOCUMENT_H_
 
+#include <string_view>
 #include <vector>
 
 #include "praxen/core/losses.h"
@@ -32,6 +33,9 @@ Ref<Class> ReadDocument(const Text& text, Losses* losses = nullptr) {
 }  // namespace praxen
 
 namespace praxen::detail {
+
+/// The one class whose documents have that root element; null for none and for several.
+const describe::ClassDescription* OnlyDocumentClass(std::u16string_view root);
 
 /// The classes that the factory reads from documents, in the order of its operations.
 const std::vector<const describe::ClassDescription*>& DocumentClasses();

@@ -35,8 +35,6 @@ LoadedDocument::LoadedDocument(const Text& XMLStr, std::u16string_view rootName)
   throw WrongRootElement(root().nodeName(), Quoted(rootName)).At(root().place());
 }
 
-LoadedDocument::~LoadedDocument() { texts_.Clear(); }
-
 void LoadedDocument::ReadRoot(Object& object, Losses* losses) const {
   if (losses == nullptr) return object.ReadXML(root());
   LossRecorder recorder(*document_);

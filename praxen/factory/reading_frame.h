@@ -8,8 +8,8 @@
 
 #include "praxen/core/losses.h"
 #include "praxen/core/text.h"
+#include "praxen/describe/document_values.h"
 #include "praxen/describe/object.h"
-#include "praxen/describe/shared_texts.h"
 #include "praxen/factory/library.h"
 #include "praxen/xml/xml_document.h"
 
@@ -22,6 +22,22 @@ inline constexpr std::u16string_view kSchemaNamespace = u"PraxenSchema3_0";
 /// schema, to any thread: the first call reads it, and it is kept.
 std::function<XmlSchemaSource()> FindSchema();
 
+/// Whether that is the schema which the library came with, whatever place it has. Raises
+/// `UnusableSchema` when it cannot be read.
+bool IsShippedSchemaUsed();
+
+/// While a document is read: what its values have in common is given up as this ends.
+class DocumentValuesInUse {
+ public:
+  DocumentValuesInUse() = default;
+  DocumentValuesInUse(const DocumentValuesInUse&) = delete;
+  DocumentValuesInUse& operator=(const DocumentValuesInUse&) = delete;
+  ~DocumentValuesInUse() { values_.Clear(); }
+
+ private:
+  DocumentValues& values_ = DocumentValues::Instance();
+};
+
 /// A document that is being read. What it has loaded is given up when it ends; nothing refers to
 /// the caller's text after that.
 class LoadedDocument {
@@ -33,7 +49,6 @@ class LoadedDocument {
   LoadedDocument(const Text& XMLStr, std::u16string_view rootName);
   LoadedDocument(const LoadedDocument&) = delete;
   LoadedDocument& operator=(const LoadedDocument&) = delete;
-  ~LoadedDocument();
 
   XmlNode root() const { return document_->documentElement(); }
   /// Whether the root has that name; raises `InvalidXml` when it has, but not in the namespace of
@@ -46,7 +61,7 @@ class LoadedDocument {
  private:
   // The nodes refer to its characters.
   const Text text_;
-  SharedTexts& texts_ = SharedTexts::Instance();
+  const DocumentValuesInUse values_;
   const ReaderDocument document_;
 };
 

@@ -101,7 +101,12 @@ class Schema {
 
   SchemaOrigin Origin() {
     const std::lock_guard lock(mutex_);
-    return {file_.empty() ? Text() : NameOf(file_), Read() == EmbeddedSchema()};
+    return {file_.empty() ? Text() : NameOf(file_), IsShipped()};
+  }
+
+  bool isShipped() {
+    const std::lock_guard lock(mutex_);
+    return IsShipped();
   }
 
  private:
@@ -117,6 +122,11 @@ class Schema {
     return file_.empty() ? EmbeddedSchema() : std::string_view(content_->bytes);
   }
 
+  bool IsShipped() {
+    if (!isShipped_) isShipped_ = Read() == EmbeddedSchema();
+    return *isShipped_;
+  }
+
   std::optional<std::string> Beside(const std::u16string& name) {
     const std::lock_guard lock(mutex_);
     auto found = neighbours_.find(name);
@@ -130,10 +140,13 @@ class Schema {
   std::mutex mutex_;
   std::filesystem::path file_ = FindSchemaFile();
   std::optional<FileContent> content_;
+  std::optional<bool> isShipped_;
   std::map<std::u16string, FileContent> neighbours_;
 };
 
 }  // namespace
+
+bool IsShippedSchemaUsed() { return Schema::Shared().isShipped(); }
 
 std::function<XmlSchemaSource()> FindSchema() {
   Schema& schema = Schema::Shared();

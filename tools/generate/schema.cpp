@@ -117,15 +117,9 @@ std::string Element(const ElementDeclaration& element) {
 
 AttributeDeclaration DeclareAttribute(const Attribute& attribute) {
   AttributeDeclaration declaration{attribute.name};
-  switch (attribute.rule) {
-    case Rule::Required:
-    case Rule::Always:
-      declaration.required = !attribute.readIfPresent;
-      break;
-    case Rule::Optional:
-    case Rule::UnlessEmpty:
-    case Rule::ReadOnly:
-      declaration.defaultValue = std::u16string(attribute.absentText.view());
+  declaration.required = attribute.isRequired();
+  if (attribute.rule != Rule::Required && attribute.rule != Rule::Always) {
+    declaration.defaultValue = std::u16string(attribute.absentText.view());
   }
   return declaration;
 }

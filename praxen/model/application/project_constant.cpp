@@ -79,9 +79,6 @@ void ProjectConstants::WriteTree(XMLStringWriter& writer) {
   intProjectConstants().Write(writer, *this);
 }
 
-void ProjectConstants::ReadTree(XmlNode& cursor) {
-  intProjectConstants().Read(cursor, *this);
-  cursor = {};
-}
+void ProjectConstants::ReadTree(XmlCursor& cursor) { intProjectConstants().Read(cursor, *this); }
 
 }  // namespace praxen

@@ -43,7 +43,7 @@ class ProjectConstants final
 
  private:
   void WriteTree(detail::XMLStringWriter& writer);
-  void ReadTree(detail::XmlNode& cursor);
+  void ReadTree(detail::XmlCursor& cursor);
 
   void RequireAddable(const ProjectConstant& created) override;
   /// Indexes the constants; `name` is the one that is about to be tested.

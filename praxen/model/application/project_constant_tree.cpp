@@ -15,17 +15,6 @@ namespace {
 constexpr std::u16string_view kEntry = u"ProjectConstant";
 constexpr std::u16string_view kGroup = u"ProjectConstants";
 
-Error MissingContent(const XmlNode& node) {
-  return MissingObject(u"The content of \""_text + node.nodeName() + u"\" is missing")
-      .At(node.place());
-}
-
-std::u16string_view RequiredText(const XmlNode& node) {
-  const std::u16string_view text = FirstText(node);
-  if (text.empty()) throw MissingContent(node);
-  return text;
-}
-
 // So many entries of a level are searched one after the other.
 constexpr size_t kMostSearched = 8;
 
@@ -151,25 +140,30 @@ void intProjectConstants::Write(XMLStringWriter& writer, const ProjectConstants&
   }
 }
 
-void intProjectConstants::Read(XmlNode first, ProjectConstants& list) { ReadLevel(first, list); }
+void intProjectConstants::Read(XmlCursor& cursor, ProjectConstants& list) {
+  ReadLevel(cursor, list);
+}
 
-void intProjectConstants::ReadLevel(XmlNode node, ProjectConstants& list) {
-  for (; node; node = node.nextSibling()) {
-    const std::u16string_view name = RequiredAttribute(node, u"Name");
-    CountElement(name);
-    const XmlNode child = node.firstChild();
-    if (node.recorder() != nullptr) RecordEntry(node, Text(groups_) + name);
-    if (child.nodeName() == kGroup) {
-      const size_t outer = groups_.size();
-      groups_ += name;
+void intProjectConstants::ReadLevel(XmlCursor& cursor, ProjectConstants& list) {
+  while (!cursor.name().empty()) {
+    const size_t outer = groups_.size();
+    groups_ += cursor.ReadAttribute(u"Name");
+    CountElement(std::u16string_view(groups_).substr(outer));
+    const XmlNode entry = cursor.node();
+    if (entry.recorder() != nullptr) RecordEntry(entry, groups_);
+    cursor.Enter();
+    if (cursor.name() == kGroup) {
       // A group without a name adds nothing to the first level.
       if (!groups_.empty()) groups_ += u'.';
-      ReadLevel(child.firstChild(), list);
-      groups_.resize(outer);
+      cursor.Enter();
+      ReadLevel(cursor, list);
+      cursor.Leave();
     } else {
-      if (!AllowsName(groups_.size() + name.size())) throw Overflow().At(node.place());
-      ReadConstant(groups_.empty() ? Text(name) : Text(groups_) + name, node, list);
+      if (!AllowsName(groups_.size())) throw Overflow().At(entry.place());
+      ReadConstant(cursor, list);
     }
+    cursor.Leave();
+    groups_.resize(outer);
   }
 }
 
@@ -206,18 +200,11 @@ bool intProjectConstants::AllowsName(size_t size) {
   return nameCharacters_ <= allowedCharacters_;
 }
 
-void intProjectConstants::ReadConstant(const Text& name, const XmlNode& node,
-                                       ProjectConstants& list) {
+void intProjectConstants::ReadConstant(XmlCursor& cursor, ProjectConstants& list) {
   // Whatever stands in the two places is taken for the type and the value.
-  const XmlNode type = node.firstChild();
-  const XmlNode value = type.nextSibling();
-  if (!value) throw MissingContent(node);
-  if (LossRecorder* const recorder = node.recorder()) {
-    recorder->ReadAs(type, u"Type");
-    recorder->ReadAs(value, u"Value");
-  }
-  const Text typeText = RequiredText(type);
-  list.Add(ProjectConstant::Form()(name, typeText, RequiredText(value)));
+  cursor.RequireChildren(2);
+  const Text type = cursor.ReadRequiredText(u"Type");
+  list.Add(ProjectConstant::Form()(groups_, type, cursor.ReadRequiredText(u"Value")));
 }
 
 }  // namespace praxen::detail

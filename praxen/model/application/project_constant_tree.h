@@ -12,7 +12,7 @@
 #include "praxen/core/counters.h"
 #include "praxen/model/application/dotted_name_index.h"
 #include "praxen/model/application/project_constant.h"
-#include "praxen/xml/xml_document.h"
+#include "praxen/xml/xml_cursor.h"
 
 namespace praxen::detail {
 
@@ -81,10 +81,10 @@ class intProjectConstants {
   /// `NestedTooDeep` beyond `kMaxXmlDepth` elements, and `Overflow` as `Read` does. The list does
   /// not change meanwhile.
   void Write(XMLStringWriter& writer, const ProjectConstants& list);
-  /// Appends the constants of the elements from `first` on, depth first. Raises `Overflow` when, up
-  /// to any of them, their dotted names have together more characters than is allowed for so many
-  /// elements: short names in groups of long names would take any multiple of the document.
-  void Read(XmlNode first, ProjectConstants& list);
+  /// Appends the constants of the elements from the cursor on, depth first. Raises `Overflow` when,
+  /// up to any of them, their dotted names have together more characters than is allowed for so
+  /// many elements: short names in groups of long names would take any multiple of the document.
+  void Read(XmlCursor& cursor, ProjectConstants& list);
 
   /// The characters that dotted names may have together: so many, so many for each constant and
   /// group, and so many for each character of the element's own name.
@@ -97,9 +97,10 @@ class intProjectConstants {
   intProjectConstant& NewEntry(intProjectConstant& level, std::u16string_view name);
   void AddRecursive(intProjectConstant& level, std::u16string_view name, std::u16string_view type,
                     std::u16string_view value);
-  void ReadLevel(XmlNode node, ProjectConstants& list);
+  void ReadLevel(XmlCursor& cursor, ProjectConstants& list);
   void RecordEntry(const XmlNode& node, const Text& name);
-  void ReadConstant(const Text& name, const XmlNode& node, ProjectConstants& list);
+  /// The constant whose name is `groups_`.
+  void ReadConstant(XmlCursor& cursor, ProjectConstants& list);
 
   void CountElement(std::u16string_view name);
   /// Adds a dotted name of so many characters; false when that is more than is allowed.
@@ -108,7 +109,7 @@ class intProjectConstants {
   std::deque<intProjectConstant> entries_;
   /// The names of the constants read, while their reading is recorded.
   DottedNameIndex recorded_;
-  /// The names of the groups around what is read, each with its dot.
+  /// The names of the groups around what is read, each with its dot, and that of what is read.
   std::u16string groups_;
   size_t nameCharacters_ = 0;
   size_t allowedCharacters_ = kNameCharacters;

@@ -1,7 +1,7 @@
 // The connected variable of a channel, whose element also tells whether it is a signal.
 #include "praxen/model/hardware/hw_channel.h"
 
-#include "praxen/describe/xml_reading.h"
+#include "praxen/xml/xml_cursor.h"
 #include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
@@ -36,11 +36,10 @@ void HWChannel::WriteConnection(XMLStringWriter& writer) {
   writer.WriteEndElement(kConnection);
 }
 
-void HWChannel::ReadConnection(XmlNode& cursor) {
-  if (cursor.nodeName() != kConnection) return;
-  IsSignal = ReadBoolAttribute(cursor, kIsSignal);
-  ConVariable = ReadTextElement(cursor, kConnection);
-  cursor = cursor.nextSibling();
+void HWChannel::ReadConnection(XmlCursor& cursor) {
+  if (cursor.name() != kConnection) return;
+  IsSignal = cursor.ReadBoolean(kIsSignal);
+  ConVariable = cursor.ReadText();
 }
 
 }  // namespace praxen

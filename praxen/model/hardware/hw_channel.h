@@ -38,7 +38,7 @@ class HWChannel final : public describe::Described<HWChannel> {
 
  private:
   void WriteConnection(detail::XMLStringWriter& writer);
-  void ReadConnection(detail::XmlNode& cursor);
+  void ReadConnection(detail::XmlCursor& cursor);
 };
 
 class HWChannels final : public Collection<HWChannels, HWChannel> {

@@ -1,9 +1,7 @@
 // The diagram of an FDCodeBlock as markup.
 #include "praxen/model/pou/fd_code_block.h"
 
-#include "praxen/xml/loss_recorder.h"
-#include "praxen/xml/xml_document.h"
-#include "praxen/xml/xml_markup.h"
+#include "praxen/xml/xml_cursor.h"
 #include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
@@ -19,13 +17,9 @@ Layout FDCodeBlock::layout() {
 
 void FDCodeBlock::WriteDiagram(XMLStringWriter& writer) { writer.WriteXMLElementValue(FDAsXMLStr); }
 
-void FDCodeBlock::ReadDiagram(XmlNode& cursor) {
+void FDCodeBlock::ReadDiagram(XmlCursor& cursor) {
   // Blanks between the tags are no diagram.
-  const bool isText = cursor.nodeName() == u"#text";
-  if (!cursor || (isText && IsXmlBlank(cursor.nodeValue()))) return;
-  FDAsXMLStr = cursor.Markup();
-  if (cursor.recorder() != nullptr) cursor.recorder()->TakeMarkup(cursor, u"FDCodeBlock");
-  cursor = cursor.nextSibling();
+  if (!cursor.isAtEnd()) FDAsXMLStr = cursor.ReadMarkup(u"FDCodeBlock");
 }
 
 }  // namespace praxen

@@ -22,7 +22,7 @@ class FDCodeBlock final : public describe::Described<FDCodeBlock, ICodeBlock> {
 
  private:
   void WriteDiagram(detail::XMLStringWriter& writer);
-  void ReadDiagram(detail::XmlNode& cursor);
+  void ReadDiagram(detail::XmlCursor& cursor);
 };
 
 extern template struct describe::Published<FDCodeBlock>;

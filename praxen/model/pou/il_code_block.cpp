@@ -1,7 +1,7 @@
 // The two forms of a row of an instruction list in XML.
 #include "praxen/model/pou/il_code_block.h"
 
-#include "praxen/describe/xml_reading.h"
+#include "praxen/xml/xml_cursor.h"
 #include "praxen/xml/xml_string_writer.h"
 
 namespace praxen {
@@ -39,16 +39,14 @@ void ILRow::WriteTexts(XMLStringWriter& writer) {
   }
 }
 
-void ILRow::ReadTexts(XmlNode& cursor) {
-  IsRowComment = cursor.nodeName() == kComment.element;
+void ILRow::ReadTexts(XmlCursor& cursor) {
+  IsRowComment = cursor.name() == kComment.element;
   if (IsRowComment) {
-    this->*kComment.text = ReadTextElement(cursor, kComment.element);
+    this->*kComment.text = cursor.ReadText();
     return;
   }
   for (const RowText& row : kInstruction) {
-    if (cursor.nodeName() != row.element) continue;
-    this->*row.text = ReadTextElement(cursor, row.element);
-    cursor = cursor.nextSibling();
+    if (cursor.name() == row.element) this->*row.text = cursor.ReadText();
   }
 }
 

@@ -37,7 +37,7 @@ class ILRow final : public describe::Described<ILRow> {
 
  private:
   void WriteTexts(detail::XMLStringWriter& writer);
-  void ReadTexts(detail::XmlNode& cursor);
+  void ReadTexts(detail::XmlCursor& cursor);
 };
 
 class ILRows final : public Collection<ILRows, ILRow> {

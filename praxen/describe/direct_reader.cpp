@@ -1,0 +1,302 @@
+// The pass over a document, with a stack of its own for open elements.
+#include "praxen/describe/direct_reader.h"
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <utility>
+
+#include "praxen/core/numbers.h"
+#include "praxen/describe/description.h"
+#include "praxen/describe/reflection.h"
+#include "praxen/describe/xml_reading.h"
+#include "praxen/xml/xml_cursor.h"
+#include "praxen/xml/xml_limits.h"
+
+namespace praxen::describe {
+
+namespace {
+
+bool IsSame(std::u16string_view a, std::u16string_view b) {
+  return a.size() == b.size() && std::memcmp(a.data(), b.data(), 2 * a.size()) == 0;
+}
+
+// The attributes mostly come in their order.
+size_t FindAttribute(const std::vector<Attribute>& all, std::u16string_view name, size_t expected) {
+  for (size_t i = expected; i < all.size(); ++i) {
+    if (IsSame(all[i].name, name)) return i;
+  }
+  for (size_t i = 0; i < expected; ++i) {
+    if (IsSame(all[i].name, name)) return i;
+  }
+  return all.size();
+}
+
+}  // namespace
+
+/// What a class reads itself, out of the characters.
+class DirectReader::Cursor final : public detail::XmlCursor {
+ public:
+  /// Inside so many elements, of which the innermost may have no content.
+  Cursor(XmlScanner& scanner, size_t depth, bool isEmpty)
+      : scanner_(scanner), depth_(depth), isEmpty_(isEmpty), start_(scanner.place()) {}
+
+  /// Whether anything was read.
+  bool hasMoved() const {
+    RequireNoTag();
+    return scanner_.place() != start_;
+  }
+
+  std::u16string_view name() override {
+    return isAtEnd() ? std::u16string_view() : scanner_.PeekName();
+  }
+
+  bool isAtEnd() override {
+    RequireNoTag();
+    if (isEmpty()) return true;
+    scanner_.SkipBlanks();
+    return scanner_.isAtEndTag();
+  }
+
+  std::u16string_view ReadAttribute(std::u16string_view attribute) override {
+    if (tag_.empty()) TakeName(scanner_.PeekName());
+    if (scanner_.AttributeName() != attribute) throw XmlGivenUp();
+    return scanner_.AttributeValue();
+  }
+
+  bool ReadBoolean(std::u16string_view attribute) override {
+    return TextToBoolean(ReadAttribute(attribute));
+  }
+
+  std::u16string_view ReadText() override {
+    if (tag_.empty()) TakeName(scanner_.PeekName());
+    const std::u16string_view name = std::exchange(tag_, {});
+    if (!scanner_.AttributeName().empty()) throw XmlGivenUp();
+    if (!scanner_.EndStartTag()) return {};
+    const std::u16string_view text = scanner_.Content();
+    scanner_.TakeEndTag(name);
+    return text;
+  }
+
+  std::u16string_view ReadRequiredText(std::u16string_view expected) override {
+    if (name() != expected) throw XmlGivenUp();
+    const std::u16string_view text = ReadText();
+    if (text.empty()) throw XmlGivenUp();
+    return text;
+  }
+
+  Text ReadMarkup(std::u16string_view) override { return scanner_.Markup(depth_); }
+
+  void Enter() override {
+    if (tag_.empty()) TakeName(scanner_.PeekName());
+    if (!scanner_.AttributeName().empty()) throw XmlGivenUp();
+    entered_.push_back({std::exchange(tag_, {}), !scanner_.EndStartTag()});
+    if (depth_ + entered_.size() > kMaxXmlDepth) throw XmlGivenUp();
+  }
+
+  // Fewer are missing where they are read.
+  void RequireChildren(size_t) override {}
+
+  void Leave() override {
+    if (!isAtEnd()) throw XmlGivenUp();
+    if (!isEmpty()) scanner_.TakeEndTag(entered_.back().name);
+    entered_.pop_back();
+  }
+
+ private:
+  struct Entered {
+    std::u16string_view name;
+    bool isEmpty;
+  };
+
+  bool isEmpty() const { return entered_.empty() ? isEmpty_ : entered_.back().isEmpty; }
+  void TakeName(std::u16string_view name) {
+    scanner_.TakeName(name);
+    tag_ = name;
+  }
+  // An element of which an attribute was read is read itself before anything else.
+  void RequireNoTag() const {
+    if (!tag_.empty()) throw XmlGivenUp();
+  }
+
+  XmlScanner& scanner_;
+  const size_t depth_;
+  const bool isEmpty_;
+  const char16_t* const start_;
+  // The element whose start tag is being read; empty between tags.
+  std::u16string_view tag_;
+  std::vector<Entered> entered_;
+};
+
+void DirectReader::Read(Object& object, std::u16string_view name) {
+  Begin(object, name);
+  while (!open_.empty()) ReadNext();
+}
+
+// Reads the start tag, and all of the element that holds no elements.
+void DirectReader::Begin(Object& object, std::u16string_view name) {
+  // A text may stand two levels below.
+  if (open_.size() + 3 > kMaxXmlDepth) throw XmlGivenUp();
+  const Layout& layout = object.description().layout();
+  scanner_.TakeName(name);
+  ReadAttributes(object, layout);
+  const bool isEmpty = !scanner_.EndStartTag();
+  const bool isText =
+      layout.children.size() == 1 && layout.children.front().kind == ChildKind::Content;
+  if (isText) return ReadContent(object, layout.children.front(), isEmpty ? u"" : name);
+  const Open open{&object, &layout, name};
+  if (isEmpty) return Finish(open, true);
+  open_.push_back(open);
+}
+
+void DirectReader::ReadAttributes(Object& object, const Layout& layout) {
+  const std::vector<Attribute>& all = layout.attributes;
+  const bool isRoot = open_.empty();
+  bool isDeclared = !isRoot;
+  uint64_t given = 0;
+  size_t expected = 0;
+  for (;;) {
+    const std::u16string_view name = scanner_.AttributeName();
+    if (name.empty()) break;
+    const size_t found = FindAttribute(all, name, expected);
+    if (found == all.size()) {
+      if (isDeclared || name != u"xmlns" || scanner_.AttributeValue() != namespace_) {
+        throw XmlGivenUp();
+      }
+      isDeclared = true;
+      continue;
+    }
+    const uint64_t bit = uint64_t{1} << found;
+    if ((given & bit) != 0) throw XmlGivenUp();
+    given |= bit;
+    expected = found + 1;
+    SetValue(all[found], object, scanner_.AttributeValue(), values_);
+  }
+  if (!isDeclared || (layout.givenAttributes & ~given) != 0) throw XmlGivenUp();
+  for (uint64_t left = layout.emptiedAttributes & ~given; left != 0; left &= left - 1) {
+    const Attribute& attribute = all[static_cast<size_t>(std::countr_zero(left))];
+    *static_cast<Text*>(ValueOf(attribute, object)) = Text();
+  }
+}
+
+// The next piece of the content of the innermost open element.
+void DirectReader::ReadNext() {
+  scanner_.SkipBlanks();
+  if (scanner_.isAtEndTag()) {
+    const Open closed = open_.back();
+    Finish(closed, false);
+    scanner_.TakeEndTag(closed.name);
+    return open_.pop_back();
+  }
+  if (scanner_.SkipComment()) return PassComment(open_.back());
+  ReadChild(scanner_.PeekName());
+}
+
+void DirectReader::ReadChild(std::u16string_view name) {
+  Open& open = open_.back();
+  const std::vector<Child>& children = open.layout->children;
+  while (open.items == nullptr) {
+    if (open.child == children.size()) {
+      StartItems(open, *open.object, *open.layout);
+    } else if (const Child& child = children[open.child]; child.kind == ChildKind::Items) {
+      StartItems(open, *Held(*open.object, child), child.type.object().layout());
+    } else {
+      ++open.child;
+      if (TryChild(*open.object, child, name)) return;
+    }
+  }
+  ReadItem(open, name);
+}
+
+// From here on, all elements are the list's.
+void DirectReader::StartItems(Open& open, Object& list, const Layout& layout) {
+  const bool isLast = open.child + 1 >= open.layout->children.size();
+  if (layout.elements.empty() || !isLast) throw XmlGivenUp();
+  open.list = &list;
+  open.items = &layout;
+}
+
+// Whether the child is what the layout says may come.
+bool DirectReader::TryChild(Object& object, const Child& child, std::u16string_view name) {
+  if (child.kind == ChildKind::Custom) return ReadWithCursor(object, child, false);
+  if (child.kind == ChildKind::Content) throw XmlGivenUp();
+  if (!IsSame(child.name, name)) {
+    // An error where another name stands, or whatever stands there.
+    if (child.strict || child.kind == ChildKind::Unnamed) throw XmlGivenUp();
+    return false;
+  }
+  if (child.kind == ChildKind::Text) {
+    ReadText(*static_cast<Text*>(ValueOf(child, object)), child);
+  } else {
+    Begin(HeldOrCreated(object, child), name);
+  }
+  return true;
+}
+
+void DirectReader::ReadItem(const Open& open, std::u16string_view name) {
+  for (const Choice& choice : open.items->elements) {
+    if (!IsSame(*choice.xmlName, name)) continue;
+    const Ref<Object> element = choice.create();
+    open.list->Append(element);
+    return Begin(*element, name);
+  }
+  throw XmlGivenUp();
+}
+
+// An element that holds a text, perhaps inside another. Without content, the value stays.
+void DirectReader::ReadText(Text& value, const Child& child) {
+  scanner_.TakeName(child.name);
+  if (!scanner_.AttributeName().empty()) throw XmlGivenUp();
+  if (!scanner_.EndStartTag()) return;
+  if (child.inner.empty()) {
+    const std::u16string_view text = scanner_.Content();
+    if (!text.empty()) value = Text(text);
+  } else {
+    scanner_.SkipBlanks();
+    if (!scanner_.isAtEndTag()) {
+      if (scanner_.PeekName() != child.inner) throw XmlGivenUp();
+      scanner_.TakeName(child.inner);
+      if (!scanner_.AttributeName().empty()) throw XmlGivenUp();
+      if (scanner_.EndStartTag()) {
+        const std::u16string_view text = scanner_.Content();
+        if (!text.empty()) value = Text(text);
+        scanner_.TakeEndTag(child.inner);
+      }
+      scanner_.SkipBlanks();
+    }
+  }
+  scanner_.TakeEndTag(child.name);
+}
+
+// The text that is all of an element's content; the name is that of the end tag, if there is one.
+void DirectReader::ReadContent(Object& object, const Child& child, std::u16string_view name) {
+  const std::u16string_view text = name.empty() ? name : scanner_.Content();
+  SetText(*static_cast<Text*>(ValueOf(child, object)), text, values_);
+  if (!name.empty()) scanner_.TakeEndTag(name);
+}
+
+// Whether the class took what stands there.
+bool DirectReader::ReadWithCursor(Object& object, const Child& child, bool isEmpty) {
+  Cursor cursor(scanner_, open_.size(), isEmpty);
+  child.readXML(object, cursor);
+  return cursor.hasMoved();
+}
+
+// A comment is a node, which lists pass over, but which stands in the way of all that may still
+// come otherwise.
+void DirectReader::PassComment(const Open& open) {
+  const size_t count = open.layout->children.size();
+  const bool nextIsList =
+      open.child + 1 == count && open.layout->children.back().kind == ChildKind::Items;
+  if (open.items == nullptr && open.child != count && !nextIsList) throw XmlGivenUp();
+}
+
+// What the layout has left when there are no more elements.
+void DirectReader::Finish(const Open& open, bool isEmpty) {
+  const std::vector<Child>& children = open.layout->children;
+  for (size_t i = open.child; i < children.size(); ++i) {
+    if (children[i].kind == ChildKind::Custom) ReadWithCursor(*open.object, children[i], isEmpty);
+  }
+}
+
+}  // namespace praxen::describe

@@ -1,0 +1,55 @@
+// When documents are read directly, and what stands for their roots.
+#include "praxen/factory/direct_reading.h"
+
+#include <atomic>
+
+#include "praxen/core/error.h"
+#include "praxen/describe/direct_reader.h"
+#include "praxen/factory/read_document.h"
+#include "praxen/factory/reading_frame.h"
+
+namespace praxen::detail {
+
+namespace {
+
+std::atomic<bool> isUsed_ = true;
+
+}  // namespace
+
+void UseDirectReading(bool isUsed) noexcept { isUsed_.store(isUsed, std::memory_order_relaxed); }
+
+bool UsesDirectReading() noexcept { return isUsed_.load(std::memory_order_relaxed); }
+
+Ref<Object> ReadDirectly(const Text& text, RootCreator create, const void* context) {
+  if (!IsShippedSchemaUsed()) return nullptr;
+  // The caller's own text may change its place while it is read.
+  const Text kept = text;
+  const DocumentValuesInUse values;
+  try {
+    XmlScanner scanner(kept);
+    scanner.ReadProlog();
+    const std::u16string_view root = scanner.PeekName();
+    Ref<Object> object = create(root, context);
+    if (!object) return nullptr;
+    DirectReader(scanner, kSchemaNamespace).Read(*object, root);
+    scanner.ReadEpilog();
+    return object;
+  } catch (const XmlGivenUp&) {
+    return nullptr;
+  } catch (const Error&) {
+    // What is wrong and where is told by the way that has nodes.
+    return nullptr;
+  }
+}
+
+Ref<Object> ReadDirectly(const Text& text) {
+  return ReadDirectly(
+      text,
+      [](std::u16string_view root, const void*) -> Ref<Object> {
+        const ClassDescription* const description = OnlyDocumentClass(root);
+        return description == nullptr ? nullptr : description->create();
+      },
+      nullptr);
+}
+
+}  // namespace praxen::detail

@@ -1,0 +1,87 @@
+// XmlScanner: one pass over the characters of an ordinary document.
+#ifndef PRAXEN_XML_XML_SCANNER_H_
+#define PRAXEN_XML_XML_SCANNER_H_
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "praxen/core/text.h"
+
+namespace praxen::detail {
+
+/// Thrown where a document is not one that the scanner is sure of; nothing is said of its fault.
+struct XmlGivenUp {};
+
+/// Reads the pieces of a well-formed document without prefixes, declarations of types and
+/// processing instructions, whose names are ASCII, as its caller expects them; throws `XmlGivenUp`
+/// for everything else.
+///
+/// Views that are returned are valid until the next call.
+class XmlScanner {
+ public:
+  /// The text has to stay alive.
+  explicit XmlScanner(const Text& text);
+
+  /// Passes over a byte-order mark, the declaration, blanks and comments, to the root's start tag.
+  void ReadProlog();
+  /// Passes over what may follow the root, which has to be all.
+  void ReadEpilog();
+
+  const char16_t* place() const { return next_; }
+
+  void SkipBlanks() {
+    while (IsBlank(*next_)) ++next_;
+  }
+  bool isAtEndTag() const { return next_[0] == u'<' && next_[1] == u'/'; }
+  /// Passes over a comment; false where there is none.
+  bool SkipComment();
+
+  /// The name of the start tag at the place.
+  std::u16string_view PeekName() const;
+  /// Passes over the start of the start tag at the place, whose name is known.
+  void TakeName(std::u16string_view name) { next_ += 1 + name.size(); }
+  /// The name of the start tag's next attribute; empty at the end of the tag.
+  std::u16string_view AttributeName();
+  /// The value of the attribute whose name was returned.
+  std::u16string_view AttributeValue();
+  /// Passes over the end of a start tag; whether the element has content.
+  bool EndStartTag();
+
+  /// The text up to the end tag.
+  std::u16string_view Content();
+  /// Passes over an end tag.
+  void TakeEndTag(std::u16string_view name);
+
+  /// The element at the place with its content, whatever its names; `depth` tells how many elements
+  /// are open.
+  std::u16string_view Markup(size_t depth);
+
+ private:
+  static bool IsBlank(char16_t c) { return c == u' ' || c == u'\n' || c == u'\r' || c == u'\t'; }
+
+  bool Takes(std::u16string_view characters);
+  void Expect(std::u16string_view characters) {
+    if (!Takes(characters)) throw XmlGivenUp();
+  }
+  void ReadDeclaration();
+  const char16_t* FindInValue(const char16_t* begin, char16_t quote) const;
+  std::u16string_view DecodedValue(const char16_t* begin, const char16_t* special);
+  void SkipCharacters();
+  std::u16string_view DecodedContent(const char16_t* begin);
+  void AppendReference();
+  void AppendBreak();
+  void AppendSection();
+  void SkipOrdinary();
+  void SkipMarkupText();
+
+  const char16_t* next_;
+  // Of the text, where its NUL stands.
+  const char16_t* const end_;
+  // Values that do not stand in the text as they are.
+  std::u16string decoded_;
+};
+
+}  // namespace praxen::detail
+
+#endif  // PRAXEN_XML_XML_SCANNER_H_
