@@ -21,15 +21,10 @@ bool IsSame(std::u16string_view a, std::u16string_view b) {
   return a.size() == b.size() && std::memcmp(a.data(), b.data(), 2 * a.size()) == 0;
 }
 
-// The attributes mostly come in their order.
-size_t FindAttribute(const std::vector<Attribute>& all, std::u16string_view name, size_t expected) {
-  for (size_t i = expected; i < all.size(); ++i) {
-    if (IsSame(all[i].name, name)) return i;
-  }
-  for (size_t i = 0; i < expected; ++i) {
-    if (IsSame(all[i].name, name)) return i;
-  }
-  return all.size();
+size_t PlaceOf(const std::vector<Attribute>& all, std::u16string_view name) {
+  size_t place = 0;
+  while (place < all.size() && !IsSame(all[place].name, name)) ++place;
+  return place;
 }
 
 }  // namespace
@@ -47,9 +42,7 @@ class DirectReader::Cursor final : public detail::XmlCursor {
     return scanner_.place() != start_;
   }
 
-  std::u16string_view name() override {
-    return isAtEnd() ? std::u16string_view() : scanner_.PeekName();
-  }
+  std::u16string_view name() override { return isAtEnd() ? std::u16string_view() : Peek(); }
 
   bool isAtEnd() override {
     RequireNoTag();
@@ -59,8 +52,8 @@ class DirectReader::Cursor final : public detail::XmlCursor {
   }
 
   std::u16string_view ReadAttribute(std::u16string_view attribute) override {
-    if (tag_.empty()) TakeName(scanner_.PeekName());
-    if (scanner_.AttributeName() != attribute) throw XmlGivenUp();
+    TakeName();
+    if (!scanner_.FindAttribute() || scanner_.TakeAttribute() != attribute) throw XmlGivenUp();
     return scanner_.AttributeValue();
   }
 
@@ -69,9 +62,9 @@ class DirectReader::Cursor final : public detail::XmlCursor {
   }
 
   std::u16string_view ReadText() override {
-    if (tag_.empty()) TakeName(scanner_.PeekName());
+    TakeName();
     const std::u16string_view name = std::exchange(tag_, {});
-    if (!scanner_.AttributeName().empty()) throw XmlGivenUp();
+    if (scanner_.FindAttribute()) throw XmlGivenUp();
     if (!scanner_.EndStartTag()) return {};
     const std::u16string_view text = scanner_.Content();
     scanner_.TakeEndTag(name);
@@ -88,8 +81,8 @@ class DirectReader::Cursor final : public detail::XmlCursor {
   Text ReadMarkup(std::u16string_view) override { return scanner_.Markup(depth_); }
 
   void Enter() override {
-    if (tag_.empty()) TakeName(scanner_.PeekName());
-    if (!scanner_.AttributeName().empty()) throw XmlGivenUp();
+    TakeName();
+    if (scanner_.FindAttribute()) throw XmlGivenUp();
     entered_.push_back({std::exchange(tag_, {}), !scanner_.EndStartTag()});
     if (depth_ + entered_.size() > kMaxXmlDepth) throw XmlGivenUp();
   }
@@ -110,9 +103,18 @@ class DirectReader::Cursor final : public detail::XmlCursor {
   };
 
   bool isEmpty() const { return entered_.empty() ? isEmpty_ : entered_.back().isEmpty; }
-  void TakeName(std::u16string_view name) {
-    scanner_.TakeName(name);
-    tag_ = name;
+  // The name at the place, which is asked for more than once.
+  std::u16string_view Peek() {
+    if (peekedAt_ != scanner_.place()) {
+      peeked_ = scanner_.PeekName();
+      peekedAt_ = scanner_.place();
+    }
+    return peeked_;
+  }
+  void TakeName() {
+    if (!tag_.empty()) return;
+    tag_ = Peek();
+    scanner_.TakeName(tag_);
   }
   // An element of which an attribute was read is read itself before anything else.
   void RequireNoTag() const {
@@ -125,6 +127,8 @@ class DirectReader::Cursor final : public detail::XmlCursor {
   const char16_t* const start_;
   // The element whose start tag is being read; empty between tags.
   std::u16string_view tag_;
+  const char16_t* peekedAt_ = nullptr;
+  std::u16string_view peeked_;
   std::vector<Entered> entered_;
 };
 
@@ -155,16 +159,17 @@ void DirectReader::ReadAttributes(Object& object, const Layout& layout) {
   bool isDeclared = !isRoot;
   uint64_t given = 0;
   size_t expected = 0;
-  for (;;) {
-    const std::u16string_view name = scanner_.AttributeName();
-    if (name.empty()) break;
-    const size_t found = FindAttribute(all, name, expected);
+  while (scanner_.FindAttribute()) {
+    // They mostly come in their order.
+    size_t found = expected;
+    while (found < all.size() && !scanner_.TakesAttribute(all[found].name)) ++found;
     if (found == all.size()) {
-      if (isDeclared || name != u"xmlns" || scanner_.AttributeValue() != namespace_) {
-        throw XmlGivenUp();
+      const std::u16string_view name = scanner_.TakeAttribute();
+      found = PlaceOf(all, name);
+      if (found == all.size()) {
+        ReadDeclaration(name, isDeclared);
+        continue;
       }
-      isDeclared = true;
-      continue;
     }
     const uint64_t bit = uint64_t{1} << found;
     if ((given & bit) != 0) throw XmlGivenUp();
@@ -177,6 +182,14 @@ void DirectReader::ReadAttributes(Object& object, const Layout& layout) {
     const Attribute& attribute = all[static_cast<size_t>(std::countr_zero(left))];
     *static_cast<Text*>(ValueOf(attribute, object)) = Text();
   }
+}
+
+// The one declaration that is expected is that of the format's namespace, at the root.
+void DirectReader::ReadDeclaration(std::u16string_view name, bool& isDeclared) {
+  if (isDeclared || name != u"xmlns" || scanner_.AttributeValue() != namespace_) {
+    throw XmlGivenUp();
+  }
+  isDeclared = true;
 }
 
 // The next piece of the content of the innermost open element.
@@ -246,7 +259,7 @@ void DirectReader::ReadItem(const Open& open, std::u16string_view name) {
 // An element that holds a text, perhaps inside another. Without content, the value stays.
 void DirectReader::ReadText(Text& value, const Child& child) {
   scanner_.TakeName(child.name);
-  if (!scanner_.AttributeName().empty()) throw XmlGivenUp();
+  if (scanner_.FindAttribute()) throw XmlGivenUp();
   if (!scanner_.EndStartTag()) return;
   if (child.inner.empty()) {
     const std::u16string_view text = scanner_.Content();
@@ -256,7 +269,7 @@ void DirectReader::ReadText(Text& value, const Child& child) {
     if (!scanner_.isAtEndTag()) {
       if (scanner_.PeekName() != child.inner) throw XmlGivenUp();
       scanner_.TakeName(child.inner);
-      if (!scanner_.AttributeName().empty()) throw XmlGivenUp();
+      if (scanner_.FindAttribute()) throw XmlGivenUp();
       if (scanner_.EndStartTag()) {
         const std::u16string_view text = scanner_.Content();
         if (!text.empty()) value = Text(text);

@@ -44,6 +44,7 @@ class DirectReader {
 
   void Begin(Object& object, std::u16string_view name);
   void ReadAttributes(Object& object, const Layout& layout);
+  void ReadDeclaration(std::u16string_view name, bool& isDeclared);
   void ReadNext();
   void ReadChild(std::u16string_view name);
   static void StartItems(Open& open, Object& list, const Layout& layout);

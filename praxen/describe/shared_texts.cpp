@@ -1,29 +1,48 @@
-// Each text has one place, which the next different text for that place takes.
+// Each text has one place, which a different text takes when it comes there twice in a row: most
+// texts, such as names, come once and cost no more than a look at the place.
 #include "praxen/describe/shared_texts.h"
 
 #include <cstdint>
+#include <cstring>
 
 namespace praxen::describe {
 
 namespace {
 
-size_t Hash(std::u16string_view characters) {
-  uint64_t hash = characters.size();
-  for (const char16_t character : characters) hash = (hash ^ character) * 0x9E3779B97F4A7C15U;
-  return static_cast<size_t>(hash >> 32);
+// Of the length and both ends, where names differ; texts between them only take turns.
+uint64_t Hash(std::u16string_view characters) {
+  constexpr size_t kEnd = sizeof(uint64_t) / sizeof(char16_t);
+  const size_t size = characters.size();
+  uint64_t first = 0, last = 0;
+  if (size >= kEnd) {
+    std::memcpy(&first, characters.data(), sizeof(first));
+    std::memcpy(&last, characters.data() + (size - kEnd), sizeof(last));
+  } else {
+    for (const char16_t character : characters) first = first << 16 | character;
+  }
+  const uint64_t mixed = (first ^ size) * 0x9E3779B97F4A7C15U + last;
+  const uint64_t hash = mixed * 0x9E3779B97F4A7C15U;
+  return hash ^ hash >> 32;
 }
 
 }  // namespace
 
 Text SharedTexts::Share(std::u16string_view characters) {
   if (characters.size() > kLongest) return Text(characters);
-  Text& place = texts_[Hash(characters) % kPlaces];
-  if (place != characters) place = Text(characters);
-  return place;
+  const uint64_t hash = Hash(characters);
+  Place& place = places_[hash % kPlaces];
+  if (place.hash == hash && place.text == characters) return place.text;
+  Text text(characters);
+  if (place.lastHash == hash) {
+    place.hash = hash;
+    place.text = text;
+  }
+  place.lastHash = hash;
+  return text;
 }
 
 void SharedTexts::Clear() noexcept {
-  for (Text& text : texts_) text = Text();
+  for (Place& place : places_) place = {};
 }
 
 }  // namespace praxen::describe

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 #include "praxen/core/text.h"
@@ -22,7 +23,14 @@ class SharedTexts {
   static constexpr size_t kLongest = 32;
   static constexpr size_t kPlaces = 256;
 
-  std::array<Text, kPlaces> texts_;
+  struct Place {
+    uint64_t hash = 0;
+    Text text;
+    /// Of the text that came to the place last.
+    uint64_t lastHash = 0;
+  };
+
+  std::array<Place, kPlaces> places_;
 };
 
 }  // namespace praxen::describe

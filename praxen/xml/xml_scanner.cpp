@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -16,14 +17,20 @@ namespace {
 
 constexpr char16_t kByteOrderMark = 0xFEFF;
 
-bool IsNameStart(char16_t c) {
+constexpr bool IsNameStart(char16_t c) {
   const char16_t lower = c | 0x20;
   return (lower >= u'a' && lower <= u'z') || c == u'_';
 }
 
-bool IsNameCharacter(char16_t c) {
-  return IsNameStart(c) || IsDigitAscii(c) || c == u'-' || c == u'.';
-}
+constexpr std::array<bool, 128> kNameCharacters = [] {
+  std::array<bool, 128> are{};
+  for (char16_t c = 0; c < are.size(); ++c) {
+    are[c] = IsNameStart(c) || IsDigitAscii(c) || c == u'-' || c == u'.';
+  }
+  return are;
+}();
+
+bool IsNameCharacter(char16_t c) { return c < kNameCharacters.size() && kNameCharacters[c]; }
 
 // The end of the name that begins there; the beginning where none does.
 const char16_t* NameEnd(const char16_t* begin) {
@@ -83,11 +90,12 @@ XmlScanner::XmlScanner(const Text& text) : next_(text.data()), end_(text.data() 
 }
 
 bool XmlScanner::Takes(std::u16string_view characters) {
-  const char16_t* next = next_;
-  for (const char16_t c : characters) {
-    if (*next++ != c) return false;
+  const size_t size = characters.size();
+  if (static_cast<size_t>(end_ - next_) < size ||
+      std::memcmp(next_, characters.data(), size * sizeof(char16_t)) != 0) {
+    return false;
   }
-  next_ = next;
+  next_ += size;
   return true;
 }
 
@@ -146,21 +154,26 @@ std::u16string_view XmlScanner::PeekName() const {
   return {begin, static_cast<size_t>(end - begin)};
 }
 
-std::u16string_view XmlScanner::AttributeName() {
+bool XmlScanner::FindAttribute() {
   const char16_t* const before = next_;
   SkipBlanks();
-  if (*next_ == u'>' || *next_ == u'/') return {};
+  if (*next_ == u'>' || *next_ == u'/') return false;
+  if (next_ == before) throw XmlGivenUp();
+  return true;
+}
+
+std::u16string_view XmlScanner::TakeAttribute() {
   const char16_t* const begin = next_;
   const char16_t* const end = NameEnd(begin);
-  if (begin == before || end == begin) throw XmlGivenUp();
+  if (end == begin) throw XmlGivenUp();
   next_ = end;
-  SkipBlanks();
-  Expect(u"=");
-  SkipBlanks();
+  if (*next_ != u'=') SkipBlanks();
+  if (*next_++ != u'=') throw XmlGivenUp();
   return {begin, static_cast<size_t>(end - begin)};
 }
 
 std::u16string_view XmlScanner::AttributeValue() {
+  if (IsBlank(*next_)) SkipBlanks();
   const char16_t quote = *next_;
   if (quote != u'\'' && quote != u'"') throw XmlGivenUp();
   const char16_t* const begin = ++next_;
@@ -215,7 +228,7 @@ std::u16string_view XmlScanner::DecodedValue(const char16_t* begin, const char16
 bool XmlScanner::EndStartTag() {
   const bool isEmpty = *next_ == u'/';
   if (isEmpty) ++next_;
-  Expect(u">");
+  if (*next_++ != u'>') throw XmlGivenUp();
   return !isEmpty;
 }
 
@@ -311,10 +324,11 @@ void XmlScanner::SkipOrdinary() {
 }
 
 void XmlScanner::TakeEndTag(std::u16string_view name) {
-  Expect(u"</");
+  if (!isAtEndTag()) throw XmlGivenUp();
+  next_ += 2;
   Expect(name);
   SkipBlanks();
-  Expect(u">");
+  if (*next_++ != u'>') throw XmlGivenUp();
 }
 
 std::u16string_view XmlScanner::Markup(size_t depth) {
@@ -331,9 +345,8 @@ std::u16string_view XmlScanner::Markup(size_t depth) {
       names.Add(name);
       TakeName(name);
       attributes.clear();
-      for (;;) {
-        const std::u16string_view attribute = AttributeName();
-        if (attribute.empty()) break;
+      while (FindAttribute()) {
+        const std::u16string_view attribute = TakeAttribute();
         const bool isKnown = std::ranges::find(attributes, attribute) != attributes.end();
         if (isKnown || attribute == u"xmlns" || attributes.size() == kMostAttributes) {
           throw XmlGivenUp();

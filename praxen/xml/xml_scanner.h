@@ -3,6 +3,7 @@
 #define PRAXEN_XML_XML_SCANNER_H_
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -41,9 +42,21 @@ class XmlScanner {
   std::u16string_view PeekName() const;
   /// Passes over the start of the start tag at the place, whose name is known.
   void TakeName(std::u16string_view name) { next_ += 1 + name.size(); }
-  /// The name of the start tag's next attribute; empty at the end of the tag.
-  std::u16string_view AttributeName();
-  /// The value of the attribute whose name was returned.
+  /// Moves to the start tag's next attribute; false at the end of the tag.
+  bool FindAttribute();
+  /// Passes over the name of the attribute at the place if it is that one.
+  bool TakesAttribute(std::u16string_view name) {
+    const size_t size = name.size();
+    if (*next_ != name.front() || static_cast<size_t>(end_ - next_) <= size ||
+        next_[size] != u'=' || std::memcmp(next_, name.data(), 2 * size) != 0) {
+      return false;
+    }
+    next_ += size + 1;
+    return true;
+  }
+  /// Passes over the name of the attribute at the place.
+  std::u16string_view TakeAttribute();
+  /// The value of the attribute whose name was passed over.
   std::u16string_view AttributeValue();
   /// Passes over the end of a start tag; whether the element has content.
   bool EndStartTag();

@@ -29,11 +29,14 @@ TEST(SharedTexts, AreWhatWasAskedForWhateverHadTheirPlace) {
   for (const auto& [text, shared] : kept) EXPECT_EQ(shared, text);
 }
 
-TEST(SharedTexts, OfShortTextsAreStoredOnceUntilCleared) {
+// A text that comes for the first time may come only once.
+TEST(SharedTexts, OfRepeatedShortTextsAreStoredOnceUntilCleared) {
   SharedTexts texts;
   const std::u16string longest(32, u'x');
+  texts.Share(longest);
   const Text first = texts.Share(longest);
   EXPECT_EQ(texts.Share(longest).data(), first.data());
+  texts.Share(longest + u"x");
   const Text tooLong = texts.Share(longest + u"x");
   EXPECT_NE(texts.Share(longest + u"x").data(), tooLong.data());
   texts.Clear();
