@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <limits>
 #include <locale>
+#include <map>
 #include <sstream>
 #include <string>
 #include <thread>
@@ -106,48 +107,37 @@ std::string ShowError(HRESULT error) {
   return error == E_INVALIDARG ? "invalid" : "error " + std::to_string(error);
 }
 
-std::string Show(const VARIANT& value) {
+std::string ShowNumber(auto number) {
   std::ostringstream out;
   out.imbue(std::locale::classic());
   out.precision(17);
-  switch (value.vt) {
-    case VT_EMPTY:
-      return "empty";
-    case VT_NULL:
-      return "null";
-    case VT_I1:
-      return std::to_string(static_cast<signed char>(value.cVal));
-    case VT_UI1:
-      return std::to_string(value.bVal);
-    case VT_I2:
-    case VT_BOOL:
-      return std::to_string(value.iVal);
-    case VT_UI2:
-      return std::to_string(value.uiVal);
-    case VT_I4:
-    case VT_INT:
-    case VT_ERROR:
-      return std::to_string(value.lVal);
-    case VT_UI4:
-    case VT_UINT:
-      return std::to_string(value.ulVal);
-    case VT_I8:
-    case VT_CY:
-      return std::to_string(value.llVal);
-    case VT_UI8:
-      return std::to_string(value.ullVal);
-    case VT_R4:
-      out << value.fltVal;
-      return out.str();
-    case VT_R8:
-    case VT_DATE:
-      out << value.dblVal;
-      return out.str();
-    case VT_BSTR:
-      return "'" + Ascii(ViewOf(value.bstrVal)) + "'";
-    default:
-      return "type " + std::to_string(value.vt);
-  }
+  out << +number;
+  return out.str();
+}
+
+std::string Show(const VARIANT& value) {
+  static const std::map<VARTYPE, std::string (*)(const VARIANT&)> kShown = {
+      {VT_EMPTY, [](const VARIANT&) { return std::string("empty"); }},
+      {VT_NULL, [](const VARIANT&) { return std::string("null"); }},
+      {VT_I1, [](const VARIANT& v) { return ShowNumber(static_cast<signed char>(v.cVal)); }},
+      {VT_UI1, [](const VARIANT& v) { return ShowNumber(v.bVal); }},
+      {VT_I2, [](const VARIANT& v) { return ShowNumber(v.iVal); }},
+      {VT_BOOL, [](const VARIANT& v) { return ShowNumber(v.boolVal); }},
+      {VT_UI2, [](const VARIANT& v) { return ShowNumber(v.uiVal); }},
+      {VT_I4, [](const VARIANT& v) { return ShowNumber(v.lVal); }},
+      {VT_INT, [](const VARIANT& v) { return ShowNumber(v.intVal); }},
+      {VT_ERROR, [](const VARIANT& v) { return ShowNumber(v.scode); }},
+      {VT_UI4, [](const VARIANT& v) { return ShowNumber(v.ulVal); }},
+      {VT_UINT, [](const VARIANT& v) { return ShowNumber(v.uintVal); }},
+      {VT_I8, [](const VARIANT& v) { return ShowNumber(v.llVal); }},
+      {VT_CY, [](const VARIANT& v) { return ShowNumber(v.cyVal.int64); }},
+      {VT_UI8, [](const VARIANT& v) { return ShowNumber(v.ullVal); }},
+      {VT_R4, [](const VARIANT& v) { return ShowNumber(v.fltVal); }},
+      {VT_R8, [](const VARIANT& v) { return ShowNumber(v.dblVal); }},
+      {VT_DATE, [](const VARIANT& v) { return ShowNumber(v.date); }},
+      {VT_BSTR, [](const VARIANT& v) { return "'" + Ascii(ViewOf(v.bstrVal)) + "'"; }}};
+  const auto shown = kShown.find(value.vt);
+  return shown == kShown.end() ? "type " + std::to_string(value.vt) : shown->second(value);
 }
 
 struct Conversion {
@@ -205,49 +195,28 @@ TEST(Conversion, BetweenNumbers) {
 }
 
 TEST(Conversion, FromText) {
-  Check({
-      {Text(u"2.5"), VT_I4, "2"},
-      {Text(u" \t-12\n"), VT_I2, "-12"},
-      {Text(u"- 5"), VT_I4, "-5"},
-      {Text(u"5 -"), VT_R8, "-5"},
-      {Text(u"(5)"), VT_R8, "-5"},
-      {Text(u"(5"), VT_I4, "mismatch"},
-      {Text(u"-5-"), VT_I4, "mismatch"},
-      {Text(u"--5"), VT_I4, "mismatch"},
-      {Text(u"1,234.5"), VT_R8, "mismatch"},
-      {Text(u"12,5"), VT_R8, "mismatch"},
-      {Text(u",5"), VT_I4, "mismatch"},
-      {Text(u"1E+3"), VT_I4, "1000"},
-      {Text(u"15e-1"), VT_I4, "2"},
-      {Text(u"1e"), VT_R8, "mismatch"},
-      {Text(u"1e 2"), VT_R8, "mismatch"},
-      {Text(u".5"), VT_R8, "0.5"},
-      {Text(u"5."), VT_R8, "5"},
-      {Text(u"."), VT_R8, "mismatch"},
-      {Text(u""), VT_I4, "mismatch"},
-      {Text(u"  "), VT_R8, "mismatch"},
-      {Text(u"12a"), VT_I4, "mismatch"},
-      {Text(u"1 2"), VT_I4, "mismatch"},
-      {Text(u"1e400"), VT_R8, "overflow"},
-      {Text(u"1e-400"), VT_R8, "0"},
-      {Text(u"1e39"), VT_R4, "overflow"},
-      {Text(u"0.1"), VT_R8, "0.10000000000000001"},
-      {Text(u"9223372036854775807"), VT_I8, "9223372036854775807"},
-      {Text(u"-9223372036854775808"), VT_I8, "-9223372036854775808"},
-      {Text(u"9223372036854775808"), VT_I8, "overflow"},
-      {Text(u"18446744073709551615"), VT_UI8, "18446744073709551615"},
-      {Text(u"18446744073709551616"), VT_UI8, "overflow"},
-      {Text(u"-1"), VT_UI8, "overflow"},
-      {Text(u"256"), VT_UI1, "overflow"},
-      {Text(u"0.00004"), VT_CY, "0"},
-      {Text(u"True"), VT_BOOL, "-1"},
-      {Text(u"fALSE"), VT_BOOL, "0"},
-      {Text(u"#TRUE#"), VT_BOOL, "-1"},
-      {Text(u" True"), VT_BOOL, "mismatch"},
-      {Text(u"0.0"), VT_BOOL, "0"},
-      {Text(u"-3"), VT_BOOL, "-1"},
-      {Text(u"True"), VT_I4, "mismatch"},
-  });
+  struct Case {
+    const char16_t* text;
+    VARTYPE target;
+    const char* expected;
+  };
+  const Case cases[] = {
+      {u"2.5", VT_I4, "2"},          {u" \t-12\n", VT_I2, "-12"},  {u"- 5", VT_I4, "-5"},
+      {u"5 -", VT_R8, "-5"},         {u"(5)", VT_R8, "-5"},        {u"1E+3", VT_I4, "1000"},
+      {u"15e-1", VT_I4, "2"},        {u".5", VT_R8, "0.5"},        {u"5.", VT_R8, "5"},
+      {u"1e400", VT_R8, "overflow"}, {u"1e-400", VT_R8, "0"},      {u"1e39", VT_R4, "overflow"},
+      {u"-1", VT_UI8, "overflow"},   {u"256", VT_UI1, "overflow"}, {u"0.00004", VT_CY, "0"},
+  };
+  for (const Case& row : cases) Check({{Text(row.text), row.target, row.expected}});
+  const Case truths[] = {
+      {u"True", VT_BOOL, "-1"},        {u"fALSE", VT_BOOL, "0"}, {u"#TRUE#", VT_BOOL, "-1"},
+      {u" True", VT_BOOL, "mismatch"}, {u"0.0", VT_BOOL, "0"},   {u"-3", VT_BOOL, "-1"},
+  };
+  for (const Case& row : truths) Check({{Text(row.text), row.target, row.expected}});
+  for (const char16_t* const text : {u"(5", u"-5-", u"--5", u"1,234.5", u"12,5", u",5", u"1e",
+                                     u"1e 2", u".", u"", u"  ", u"12a", u"1 2", u"True"}) {
+    Check({{Text(text), VT_I4, "mismatch"}, {Text(text), VT_R8, "mismatch"}});
+  }
 }
 
 TEST(Conversion, ToText) {
@@ -349,6 +318,12 @@ TEST(Conversion, AtTheEdges) {
       {Real(VT_R8, std::nan("")), VT_I8, "overflow"},
       {Text(u"2000-01-01"), VT_DATE, "mismatch"},
       {Text(u"&HFF"), VT_I4, "mismatch"},
+      {Text(u"9223372036854775807"), VT_I8, "9223372036854775807"},
+      {Text(u"-9223372036854775808"), VT_I8, "-9223372036854775808"},
+      {Text(u"9223372036854775808"), VT_I8, "overflow"},
+      {Text(u"18446744073709551615"), VT_UI8, "18446744073709551615"},
+      {Text(u"18446744073709551616"), VT_UI8, "overflow"},
+      {Text(u"0.1"), VT_R8, "0.10000000000000001"},
       {Variant(std::u16string_view(u"5\0", 2)), VT_I4, "mismatch"},
       {Whole(VT_I4, -1), VT_UI4, "overflow"},
       {Whole(VT_UI4, 0xFFFFFFFF), VT_I4, "overflow"},

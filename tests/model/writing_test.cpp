@@ -123,5 +123,19 @@ TEST(Writing, MissingObjectsAreErrorsOrLeftOut) {
   EXPECT_EQ(ErrorOf([&] { Markup(*size); }), "800A005B Object variable not set");
 }
 
+// A value that takes six times its length in markup is read as it is written, up to the limit.
+TEST(Writing, LongValuesAreReadBack) {
+  const auto variable = ObjectFactory::NewVariable(u"v", u"t");
+  variable->InitialValue = std::u16string(10'000'000, u'\'');
+  const Text document = variable->Serialize();
+  EXPECT_EQ(ObjectFactory::DeserializeVariable(document)->Serialize(), document);
+  variable->InitialValue = variable->InitialValue + u"'";
+  EXPECT_EQ(ErrorOf([&] { variable->Serialize(); }), "8002000A Overflow");
+  const auto block = ObjectFactory::NewSTCodeBlock(u"b");
+  block->STcode = std::u16string(8'000'000, u'<');
+  EXPECT_EQ(ObjectFactory::DeserializeCodeBlock(block->Serialize()).As<STCodeBlock>()->STcode,
+            block->STcode);
+}
+
 }  // namespace
 }  // namespace praxen::detail
