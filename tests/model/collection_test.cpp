@@ -60,17 +60,6 @@ TEST(Collection, FindsTheFirstExactName) {
   EXPECT_EQ(list->Count(), 2);
 }
 
-TEST(Collection, SharesElements) {
-  const auto first = New<Variables>(), second = New<Variables>();
-  const Ref<Variable> shared = Named(u"x");
-  first->Add(shared);
-  first->Add(shared);
-  second->Add(shared);
-  shared->Name = u"y";
-  EXPECT_EQ(Names(*first), "y y ");
-  EXPECT_EQ(second->Item(1), shared);
-}
-
 TEST(Collection, HoldsEmptyReferencesThatCannotBeWritten) {
   const auto list = New<Variables>();
   list->Add(nullptr);
@@ -98,23 +87,6 @@ TEST(Collection, IsAListOfCppToo) {
   EXPECT_FALSE(first.As<LDCodeBlock>());
   EXPECT_FALSE((*blocks)[1].As<STCodeBlock>());
   EXPECT_EQ(ErrorOf([&] { (*blocks)[2]; }), kBadPosition);
-}
-
-TEST(Collection, EnumeratorVisitsWhatTheListHeld) {
-  const auto list = New<Variables>();
-  list->Add1(u"a", u"real");
-  list->Add1(u"b", u"real");
-  const Ref<Enumerator> enumerator = list->NewEnum();
-  list->Remove(1);
-  EXPECT_EQ(Cast<Variable>(enumerator->Next())->Name, u"a");
-  const Ref<Enumerator> clone = enumerator->Clone();
-  EXPECT_EQ(Cast<Variable>(enumerator->Next())->Name, u"b");
-  EXPECT_TRUE(enumerator->atEnd());
-  EXPECT_FALSE(enumerator->Next());
-  EXPECT_FALSE(enumerator->Skip(1));
-  EXPECT_TRUE(clone->Skip(1));
-  clone->Reset();
-  EXPECT_EQ(Cast<Variable>(clone->Next())->Name, u"a");
 }
 
 TEST(Collection, CreatesLikeTheFactory) {

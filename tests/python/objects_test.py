@@ -81,12 +81,6 @@ class ValueTest(unittest.TestCase):
         self.assertEqual(again.Name, program.Name)
         self.assertEqual(again.Serialize(), document)
 
-    def test_members_of_the_kind_stand_beside_those_of_the_class(self):
-        bucket = create("MessageBucket")
-        bucket.Add(create("ErrorMsg"))
-        self.assertTrue(bucket(1).IsErrorMsg)
-        self.assertEqual(bucket(1).ErrorNo, 0)
-
 
 class ListTest(unittest.TestCase):
     def test_lists_are_indexed_by_their_default_member(self):

@@ -91,6 +91,10 @@ TEST_F(LateBound, ReferencesAreFollowed) {
   Variant inner = Reference(VT_BSTR, &pointer);
   EXPECT_EQ(Put(variable, u"Name", Reference(VT_VARIANT, &inner)).result, S_OK);
   EXPECT_EQ(GetText(variable, u"Name"), u"characters");
+  const Handle blocks = Obtain(program_, u"CodeBlocks");
+  EXPECT_EQ(GetText(Obtain(blocks, u"AddSTCodeBlock2", {Variant(u"b"), inner}), u"STcode"),
+            u"characters");
+  EXPECT_EQ(pointer, characters.Get());
 
   Variant loop = Reference(VT_VARIANT, nullptr);
   loop.pvarVal = &loop;
@@ -130,28 +134,6 @@ TEST_F(LateBound, AssignedValueMayOnlyBeNamedAsSuch) {
             DISP_E_PARAMNOTFOUND);
   EXPECT_EQ(badArgument, 0u);
   VariantClear(values);
-}
-
-TEST_F(LateBound, TextByReferenceIsLeftAsItWas) {
-  const Handle blocks = Obtain(program_, u"CodeBlocks");
-  BStr code(u"a := b;");
-  BSTR pointer = code.Get();
-  const Handle block =
-      Obtain(blocks, u"AddSTCodeBlock2", {Variant(u"Code"), Reference(VT_BSTR, &pointer)});
-  EXPECT_EQ(GetText(block, u"STcode"), u"a := b;");
-  EXPECT_EQ(pointer, code.Get());
-  EXPECT_EQ(code.View(), u"a := b;");
-}
-
-TEST_F(LateBound, AnyValueWillDoForTheAcknowledgeGroup) {
-  const Handle signals = Obtain(program_, u"Signals");
-  const auto group = [&](const Variant& value) {
-    return GetText(Obtain(signals, u"Add1", {Variant(u"S"), Variant(u"P"), Variant(u"in"), value}),
-                   u"AcknowledgeGroup");
-  };
-  EXPECT_EQ(group(Variant(3)), u"3");
-  EXPECT_EQ(group(Variant(u"A")), u"A");
-  EXPECT_EQ(group(Variant()), u"");
 }
 
 TEST_F(LateBound, SurplusArgumentsGoToTheDefaultMember) {

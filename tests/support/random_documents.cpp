@@ -9,6 +9,7 @@
 #include "tests/support/random_documents.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace praxen::detail {
 
@@ -17,7 +18,7 @@ using Content = ElementDeclaration::Content;
 /// A fault of one element; false where it cannot have it.
 struct ElementFault {
   const char* name;
-  bool (*apply)(RandomDocuments& random, RandomElement& element);
+  std::function<bool(RandomDocuments& random, RandomElement& element)> apply;
 };
 
 namespace {
@@ -33,6 +34,14 @@ void Insert(RandomElement& element, const std::u16string& markup) {
 void InsertText(RandomDocuments& random, RandomElement& element, const std::u16string& text) {
   if (element.attributes.empty() || random.Chance(2)) return Insert(element, text);
   element.attributes[random.Below(element.attributes.size())].second += text;
+}
+
+// Puts one of the texts into the element.
+ElementFault Inserting(const char* name, const std::vector<std::u16string>& texts) {
+  return {name, [texts](RandomDocuments& random, RandomElement& element) {
+            Insert(element, texts[random.Below(texts.size())]);
+            return true;
+          }};
 }
 
 const ElementFault kElementFaults[] = {
@@ -74,22 +83,11 @@ const ElementFault kElementFaults[] = {
        element.attributes.push_back(element.attributes.front());
        return true;
      }},
-    {"attribute twice by its namespace",
-     [](RandomDocuments&, RandomElement& element) {
-       Insert(element, u"<a xmlns:o='urn:o' xmlns:q='urn:o' o:a='' q:a=''/>");
-       return true;
-     }},
-    {"prefix that is not declared",
-     [](RandomDocuments& random, RandomElement& element) {
-       Insert(element, random.Any({u"<o:a/>", u"<a o:a=''/>"}));
-       return true;
-     }},
-    {"reserved prefix",
-     [](RandomDocuments& random, RandomElement& element) {
-       Insert(element, random.Any({u"<a xmlns:xmlns='urn:o'/>", u"<a xmlns:xml='urn:o'/>",
-                                   u"<a xmlns:o=''/>"}));
-       return true;
-     }},
+    Inserting("attribute twice by its namespace",
+              {u"<a xmlns:o='urn:o' xmlns:q='urn:o' o:a='' q:a=''/>"}),
+    Inserting("prefix that is not declared", {u"<o:a/>", u"<a o:a=''/>"}),
+    Inserting("reserved prefix",
+              {u"<a xmlns:xmlns='urn:o'/>", u"<a xmlns:xml='urn:o'/>", u"<a xmlns:o=''/>"}),
     {"less-than sign in a value",
      [](RandomDocuments&, RandomElement& element) {
        if (element.attributes.empty()) return false;
@@ -111,44 +109,17 @@ const ElementFault kElementFaults[] = {
        InsertText(random, element, {character});
        return true;
      }},
-    {"end of a section in text",
-     [](RandomDocuments&, RandomElement& element) {
-       Insert(element, u"]]>");
-       return true;
-     }},
-    {"bad comment",
-     [](RandomDocuments& random, RandomElement& element) {
-       Insert(element, random.Any({u"<!-- a -- b -->", u"<!-- a --->", u"<!- a -->", u"<! a>"}));
-       return true;
-     }},
-    {"bad instruction",
-     [](RandomDocuments& random, RandomElement& element) {
-       Insert(element, random.Any({u"<?xml version='1.0'?>", u"<?XML?>", u"<? a?>"}));
-       return true;
-     }},
-    {"bad name",
-     [](RandomDocuments& random, RandomElement& element) {
-       Insert(element, random.Any({u"<1/>", u"<-a/>", u"<.a/>", u"< a/>", u"<a$/>", u"<a/ >",
-                                   u"<\u00D7/>", u"<a 1=''/>", u"<a b$=''/>", u"<:/>",
-                                   u"<a:b:c xmlns:a='urn:o'/>", u"<a: xmlns:a='urn:o'/>"}));
-       return true;
-     }},
-    {"bad attribute",
-     [](RandomDocuments& random, RandomElement& element) {
-       Insert(element, random.Any({u"<a b/>", u"<a b=/>", u"<a b=c/>", u"<a b='\"/>",
-                                   u"<a b=''c=''/>", u"<a =''/>", u"<a b=' c=''/>"}));
-       return true;
-     }},
-    {"tags that do not match",
-     [](RandomDocuments& random, RandomElement& element) {
-       Insert(element, random.Any({u"<a></b>", u"<a><b></a></b>", u"<a>", u"</a>", u"<a></A>"}));
-       return true;
-     }},
-    {"bad section",
-     [](RandomDocuments& random, RandomElement& element) {
-       Insert(element, random.Any({u"<![cdata[a]]>", u"<![CDATA a]]>", u"<![CDATA[a]]"}));
-       return true;
-     }},
+    Inserting("end of a section in text", {u"]]>"}),
+    Inserting("bad comment", {u"<!-- a -- b -->", u"<!-- a --->", u"<!- a -->", u"<! a>"}),
+    Inserting("bad instruction", {u"<?xml version='1.0'?>", u"<?XML?>", u"<? a?>"}),
+    Inserting("bad name", {u"<1/>", u"<-a/>", u"<.a/>", u"< a/>", u"<a$/>", u"<a/ >", u"<\u00D7/>",
+                           u"<a 1=''/>", u"<a b$=''/>", u"<:/>", u"<a:b:c xmlns:a='urn:o'/>",
+                           u"<a: xmlns:a='urn:o'/>"}),
+    Inserting("bad attribute", {u"<a b/>", u"<a b=/>", u"<a b=c/>", u"<a b='\"/>", u"<a b=''c=''/>",
+                                u"<a =''/>", u"<a b=' c=''/>"}),
+    Inserting("tags that do not match",
+              {u"<a></b>", u"<a><b></a></b>", u"<a>", u"</a>", u"<a></A>"}),
+    Inserting("bad section", {u"<![cdata[a]]>", u"<![CDATA a]]>", u"<![CDATA[a]]"}),
 };
 
 struct DocumentFault {

@@ -44,6 +44,12 @@ struct Outcome {
 // Runs the command line in a folder of its own.
 class CommandLine : public testing::Test {
  protected:
+  // A command for the document on standard input, and all that it gives.
+  struct Case {
+    std::string arguments, bytes, out, err = {};
+    int exitCode = 0;
+  };
+
   CommandLine()
       : folder_(std::filesystem::path(testing::TempDir()) /
                 testing::UnitTest::GetInstance()->current_test_info()->name()) {
@@ -61,6 +67,15 @@ class CommandLine : public testing::Test {
                           Quoted(File("out")) + " 2>" + Quoted(File("err"));
     const int exitCode = WEXITSTATUS(std::system(command.c_str()));
     return {exitCode, ReadFile(folder_ / "out"), ReadFile(folder_ / "err")};
+  }
+
+  void Check(const std::vector<Case>& cases) const {
+    for (const Case& given : cases) {
+      const Outcome outcome = Run(given.arguments + " -", given.bytes);
+      EXPECT_EQ(outcome.out, given.out) << given.arguments;
+      EXPECT_EQ(outcome.err, given.err) << given.arguments;
+      EXPECT_EQ(outcome.exitCode, given.exitCode) << given.arguments;
+    }
   }
 
  private:
@@ -112,26 +127,6 @@ TEST_F(CommandLine, SamplesPassThroughPipes) {
   }
 }
 
-TEST_F(CommandLine, TheFirstBytesTellTheEncoding) {
-  const std::u16string_view text =
-      u"<Variable xmlns='PraxenSchema3_0' Name='F\u00FCllstand \U0001F6B0' Type='real' "
-      u"Attribute=''/>";
-  std::string little, big;
-  for (const char16_t unit : text) {
-    const char low = static_cast<char>(unit & 0xFF), high = static_cast<char>(unit >> 8);
-    little.append({low, high});
-    big.append({high, low});
-  }
-  const std::string utf8 = ToUtf8(text);
-  const std::string expected =
-      "-: ok (Variable, 1 object, " + std::to_string(text.size()) + " characters)\n";
-  for (const std::string& bytes :
-       {utf8, "\xEF\xBB\xBF" + utf8, little, "\xFF\xFE" + little, big, "\xFE\xFF" + big}) {
-    const Outcome outcome = Run("check -", bytes);
-    EXPECT_EQ(outcome.out + outcome.err, expected);
-  }
-}
-
 struct BrokenDocument {
   std::string bytes;
   // What standard error begins and ends with.
@@ -177,64 +172,49 @@ TEST_F(CommandLine, ABadFileDoesNotKeepTheOthersFromBeingChecked) {
   EXPECT_TRUE(outcome.out.starts_with(File("task") + ": ok (Task, 1 object, ")) << outcome.out;
 }
 
-// Which class a root stands for that a type and an instance share.
-TEST_F(CommandLine, WhatADocumentGivesTellsTypeAndInstanceApart) {
-  const std::string start = "<SingleControlModule xmlns='PraxenSchema3_0' Name='Tank' TypeGuid=' '";
-  const std::pair<std::string, std::string> documents[] = {
-      {"/>", "SingleControlModuleType Tank\n"},
-      {" AlarmOwner='1'/>", "SingleControlModuleType Tank  AlarmOwner: true\n"},
-      {" InstGuid='g'/>", "SingleControlModuleInst Tank  InstGuid: g\n"},
-      {"><GraphPos XPos='2' YPos='0' Rotation='0' XScale='1' YScale='1'/></SingleControlModule>",
-       "SingleControlModuleInst Tank\n└─ GraphPos  XPos: 2\n"},
-  };
-  for (const auto& [rest, expected] : documents) {
-    const Outcome outcome = Run("show -", start + rest);
-    EXPECT_EQ(outcome.err + outcome.out, expected);
-  }
-}
-
-TEST_F(CommandLine, ShowDrawsTheTreeOfAChart) {
+TEST_F(CommandLine, ShowTellsWhatADocumentHolds) {
+  const std::string tank = "<SingleControlModule xmlns='PraxenSchema3_0' Name='Tank' TypeGuid=' '";
   const std::string chart =
       "<SFCCodeBlock xmlns='PraxenSchema3_0' Name='Fill'><SFCStep Name='Idle' InitialStep='1'>"
       "<N_Action><ST_Code>a := 1;\nb := 2;</ST_Code></N_Action></SFCStep><SFCSelection>"
       "<SFCBranch SFCPriority='high'><SFCTransition Name='T1'>x</SFCTransition></SFCBranch>"
       "<SFCBranch/></SFCSelection></SFCCodeBlock>";
-  EXPECT_EQ(Run("show -", chart).out,
-            "SFCCodeBlock Fill\n"
-            "├─ SFCStep Idle  InitialStep: true\n"
-            "│     N_Action_STCode:\n"
-            "│       a := 1;\n"
-            "│       b := 2;\n"
-            "└─ SFCSelection\n"
-            "   ├─ SFCBranch  SFCPriority: high\n"
-            "   │  └─ SFCTransition T1: x\n"
-            "   └─ SFCBranch\n");
-  EXPECT_EQ(Run("show --depth 0 -", chart).out, "SFCCodeBlock Fill …\n");
-}
-
-TEST_F(CommandLine, ShowTellsTheWholeDocumentInOneLineOfJson) {
   const std::string list =
       "<MessageBucket xmlns='PraxenSchema3_0' NoOfErrors='1' NoOfWarnings='0'><Error ErrorNo='9' "
       "Message='a&#10;b'><PosInfo Row='2' Col='0' FOUName='' POUName='' TabName='' ElementName='' "
       "MessageType='SingleProgram' StartPos='0' EndPos='0' PageNo='0' Id=''/></Error>"
       "</MessageBucket>";
-  const Outcome outcome = Run("show --json -", list);
-  EXPECT_EQ(
-      outcome.out,
-      R"({"$file":"-","$class":"MessageBucket","NoOfErrors":1,"$elements":[{"$class":"ErrorMsg",)"
-      R"("ErrorNo":9,"Message":"a\nb","PosInfo":{"$class":"PosInfo","Row":2,)"
-      R"("MessageType":"SingleProgram"}}]})"
-      "\n");
-  EXPECT_EQ(outcome.err, "");
-}
-
-TEST_F(CommandLine, ControlCharactersDoNotReachTheTerminal) {
-  const Outcome outcome = Run("show -",
-                              "<Variable xmlns='PraxenSchema3_0' Name='a\xC2\x9B"
-                              "31m' Type='real' Attribute='retain'/>");
-  EXPECT_EQ(outcome.out,
-            "Variable a\xEF\xBF\xBD"
-            "31m real\n");
+  Check({
+      // Which class a root stands for that a type and an instance share.
+      {"show", tank + "/>", "SingleControlModuleType Tank\n"},
+      {"show", tank + " AlarmOwner='1'/>", "SingleControlModuleType Tank  AlarmOwner: true\n"},
+      {"show", tank + " InstGuid='g'/>", "SingleControlModuleInst Tank  InstGuid: g\n"},
+      {"show",
+       tank + "><GraphPos XPos='2' YPos='0' Rotation='0' XScale='1' YScale='1'/>"
+              "</SingleControlModule>",
+       "SingleControlModuleInst Tank\n└─ GraphPos  XPos: 2\n"},
+      {"show", chart,
+       "SFCCodeBlock Fill\n"
+       "├─ SFCStep Idle  InitialStep: true\n"
+       "│     N_Action_STCode:\n"
+       "│       a := 1;\n"
+       "│       b := 2;\n"
+       "└─ SFCSelection\n"
+       "   ├─ SFCBranch  SFCPriority: high\n"
+       "   │  └─ SFCTransition T1: x\n"
+       "   └─ SFCBranch\n"},
+      {"show --depth 0", chart, "SFCCodeBlock Fill …\n"},
+      {"show --json", list,
+       R"({"$file":"-","$class":"MessageBucket","NoOfErrors":1,"$elements":[{"$class":"ErrorMsg",)"
+       R"("ErrorNo":9,"Message":"a\nb","PosInfo":{"$class":"PosInfo","Row":2,)"
+       R"("MessageType":"SingleProgram"}}]})"
+       "\n"},
+      {"show",
+       "<Variable xmlns='PraxenSchema3_0' Name='a\xC2\x9B"
+       "31m' Type='real' Attribute='retain'/>",
+       "Variable a\xEF\xBF\xBD"
+       "31m real\n"},
+  });
 }
 
 TEST_F(CommandLine, MessagesArePrintedAsACompilerPrintsThem) {
@@ -247,33 +227,24 @@ TEST_F(CommandLine, MessagesArePrintedAsACompilerPrintsThem) {
       "</Error></MessageBucket>";
   const std::string start = "<MessageBucket xmlns='PraxenSchema3_0' ";
   const std::string warning = "Main/Code:2:3: warning 7: b\n", error = "Main/Code: error 9: c\n";
-  const struct {
-    std::string arguments, bytes, expected;
-    int exitCode;
-  } cases[] = {
-      {"", start + "NoOfErrors='1' NoOfWarnings='1'>" + list,
-       "info: a\n" + warning + error + "1 error, 1 warning\n", 1},
-      {"--sort ", start + "NoOfErrors='5' NoOfWarnings='0'>" + list,
+  Check({
+      {"messages", start + "NoOfErrors='1' NoOfWarnings='1'>" + list,
+       "info: a\n" + warning + error + "1 error, 1 warning\n", "", 1},
+      {"messages --sort", start + "NoOfErrors='5' NoOfWarnings='0'>" + list,
        error + warning +
            "info: a\n1 error, 1 warning; the list itself counts 5 errors, no warnings\n",
-       1},
-      {"", start + "NoOfErrors='0' NoOfWarnings='0'/>", "no errors, no warnings\n", 0},
-      {"", start + "NoOfErrors='2' NoOfWarnings='0'/>",
-       "no errors, no warnings; the list itself counts 2 errors\n", 1},
-      {"--json --sort ",
+       "", 1},
+      {"messages", start + "NoOfErrors='0' NoOfWarnings='0'/>", "no errors, no warnings\n"},
+      {"messages", start + "NoOfErrors='2' NoOfWarnings='0'/>",
+       "no errors, no warnings; the list itself counts 2 errors\n", "", 1},
+      {"messages --json --sort",
        start + "NoOfErrors='0' NoOfWarnings='1'><Find Message='f'/><Error ErrorNo='9' Message='c'/>"
                "</MessageBucket>",
        R"({"NoOfErrors":0,"NoOfWarnings":1,"messages":[{"kind":"error","number":9,"message":"c"},)"
        R"({"kind":"find","message":"f"}]})"
        "\n",
-       1},
-      {"", "<Task/>", "", 1},
-  };
-  for (const auto& given : cases) {
-    const Outcome outcome = Run("messages " + given.arguments + "-", given.bytes);
-    EXPECT_EQ(outcome.out, given.expected);
-    EXPECT_EQ(outcome.exitCode, given.exitCode);
-  }
+       "", 1},
+  });
 }
 
 TEST_F(CommandLine, WrongUseIsToldFromBadDocuments) {
@@ -385,10 +356,7 @@ TEST_F(CommandLine, WhatIsNotReadIsTold) {
       "\n</ProjectConstants></ProjectConstant></ProjectConstants>";
   const std::string started = R"({"file":"-","ok":false,)";
   const std::string two = type + " Protected='x' Hidden='\xE2\x80\xAE'/>";
-  const struct {
-    std::string arguments, bytes, out, err;
-    int exitCode;
-  } cases[] = {
+  Check({
       {"check", unit, "", lost, 1},
       {"check --lossy", unit, ok("HWUnit", unit), lost, 0},
       {"check --json", unit,
@@ -446,13 +414,7 @@ TEST_F(CommandLine, WhatIsNotReadIsTold) {
        1},
       {"convert --encoding utf-8 -o -", "<?xml version='1.0' encoding='utf-16'?>" + type + "/>",
        written + " />\r\n", "", 0},
-  };
-  for (const auto& given : cases) {
-    const Outcome outcome = Run(given.arguments + " -", given.bytes);
-    EXPECT_EQ(outcome.out, given.out) << given.arguments;
-    EXPECT_EQ(outcome.err, given.err) << given.arguments;
-    EXPECT_EQ(outcome.exitCode, given.exitCode) << given.arguments;
-  }
+  });
 }
 
 TEST_F(CommandLine, ConvertReplacesTheFileOrLeavesItAlone) {
