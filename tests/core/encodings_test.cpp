@@ -7,6 +7,8 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "praxen/core/enumerations.h"
 #include "praxen/core/error.h"
@@ -18,37 +20,25 @@ namespace praxen::detail {
 namespace {
 
 TEST(Enumerations, ReadTheirOwnTextsAndMapOthers) {
-  struct Case {
+  const struct {
     const EnumerationDescription& enumeration;
-    std::u16string_view text;
-    int32_t value;
+    std::vector<std::pair<std::u16string_view, int32_t>> texts;
+  } cases[] = {
+      {DescribeEnumeration<DirectionValue>(), {{u"in", 0}, {u"in_out", 1}, {u"IN", 2}}},
+      {DescribeEnumeration<ScopeValue>(), {{u"public", 0}, {u"Public", 1}}},
+      {DescribeEnumeration<VisibilityInGraphicsValue>(), {{u"visible", 1}, {u"", 2}}},
+      {DescribeEnumeration<AutoPosValue>(), {{u"Bottom", 1}}},
+      {DescribeEnumeration<SFCPriorityValue>(), {{u"highest", 5}, {u"urgent", 0}}},
+      {DescribeEnumeration<TaskPriorityValue>(), {{u"3", 3}, {u"17", 5}}},
+      {DescribeEnumeration<OutputUpdateValue>(), {{u"first", 0}, {u"First", 1}}},
+      {DescribeEnumeration<TaskSILLevelValue>(),
+       {{u"NONSIL", 0}, {u"0", 0}, {u"SIL2", 1}, {u"2", 1}, {u"3", 2}, {u"sil1", 2}}},
+      {DescribeEnumeration<MessageTypeValue>(), {{u"MessageGeneral", 11}, {u"Program", 14}}},
   };
-  const Case cases[] = {
-      {DescribeEnumeration<DirectionValue>(), u"in", 0},
-      {DescribeEnumeration<DirectionValue>(), u"in_out", 1},
-      {DescribeEnumeration<DirectionValue>(), u"IN", 2},
-      {DescribeEnumeration<ScopeValue>(), u"public", 0},
-      {DescribeEnumeration<ScopeValue>(), u"Public", 1},
-      {DescribeEnumeration<VisibilityInGraphicsValue>(), u"visible", 1},
-      {DescribeEnumeration<VisibilityInGraphicsValue>(), u"", 2},
-      {DescribeEnumeration<AutoPosValue>(), u"Bottom", 1},
-      {DescribeEnumeration<SFCPriorityValue>(), u"highest", 5},
-      {DescribeEnumeration<SFCPriorityValue>(), u"urgent", 0},
-      {DescribeEnumeration<TaskPriorityValue>(), u"3", 3},
-      {DescribeEnumeration<TaskPriorityValue>(), u"17", 5},
-      {DescribeEnumeration<OutputUpdateValue>(), u"first", 0},
-      {DescribeEnumeration<OutputUpdateValue>(), u"First", 1},
-      {DescribeEnumeration<TaskSILLevelValue>(), u"NONSIL", 0},
-      {DescribeEnumeration<TaskSILLevelValue>(), u"0", 0},
-      {DescribeEnumeration<TaskSILLevelValue>(), u"SIL2", 1},
-      {DescribeEnumeration<TaskSILLevelValue>(), u"2", 1},
-      {DescribeEnumeration<TaskSILLevelValue>(), u"3", 2},
-      {DescribeEnumeration<TaskSILLevelValue>(), u"sil1", 2},
-      {DescribeEnumeration<MessageTypeValue>(), u"MessageGeneral", 11},
-      {DescribeEnumeration<MessageTypeValue>(), u"Program", 14},
-  };
-  for (const Case& test : cases) {
-    EXPECT_EQ(test.enumeration.FromText(test.text), test.value) << ToUtf8(test.text);
+  for (const auto& [enumeration, texts] : cases) {
+    for (const auto& [text, value] : texts) {
+      EXPECT_EQ(enumeration.FromText(text), value) << ToUtf8(text);
+    }
   }
 }
 

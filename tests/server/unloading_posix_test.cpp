@@ -6,7 +6,9 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <future>
 #include <string>
+#include <thread>
 
 #include "praxen/describe/identifiers.h"
 #include "praxen/factory/classes.h"
@@ -25,12 +27,13 @@ class LibraryCopy {
   ~LibraryCopy() { fs::remove(file_); }
 
   void Load() {
-    loaded_ = ::dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL);
+    loaded_ = ::dlopen(file_.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_DEEPBIND);
     ASSERT_NE(loaded_, nullptr) << ::dlerror();
   }
+  bool CanUnload() const { return Find<HRESULT()>("DllCanUnloadNow")() == S_OK; }
   // Whether the library agreed to go, and went.
   bool Unload() {
-    const bool agreed = Find<HRESULT()>("DllCanUnloadNow")() == S_OK;
+    const bool agreed = CanUnload();
     ::dlclose(loaded_);
     return agreed && ::dlopen(file_.c_str(), RTLD_NOW | RTLD_NOLOAD) == nullptr;
   }
@@ -86,6 +89,34 @@ TEST(Unloading, LeavesNothingBehind) {
   // The allocator counts what it holds back as used, which comes and goes.
   constexpr size_t kTolerance = 16 * 1024;
   EXPECT_LT(after, before + kTolerance) << "bytes in use after a quarter of them, and at the end";
+}
+
+// A second copy beside that of this program.
+TEST(Unloading, WaitsForObjectsAndNotForThreads) {
+  if (kHasSanitizer) GTEST_SKIP() << "the address checker knows one copy of each symbol only";
+  LibraryCopy library;
+  library.Load();
+  EXPECT_TRUE(library.CanUnload());
+  Handle foreign = library.Create(u"Variables");
+  ASSERT_TRUE(foreign);
+  EXPECT_FALSE(library.CanUnload());
+  // Objects of another copy are foreign, whatever they look like.
+  EXPECT_EQ(Put(client::Create("Program"), u"Variables", Variant(foreign.Get())).result,
+            DISP_E_TYPEMISMATCH);
+  foreign = {};
+  // Threads that end before, and one that ends when there is nothing left of the library.
+  const auto use = [&] { EXPECT_TRUE(library.Create(u"Variable")); };
+  for (int i = 0; i < 3; ++i) std::thread(use).join();
+  std::promise<void> used, unloaded;
+  std::thread survivor([&] {
+    use();
+    used.set_value();
+    unloaded.get_future().wait();
+  });
+  used.get_future().wait();
+  EXPECT_TRUE(library.Unload());
+  unloaded.set_value();
+  survivor.join();
 }
 
 }  // namespace

@@ -124,99 +124,95 @@ Case Holding(std::u16string_view content, std::string outline) {
           "List(xmlns='urn:test' Name='x' Scope~'private' Hidden~'0')" + outline};
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Trees, Loading,
-    testing::Values(
-        Holding(u"", ""), Holding(u"\n  \t", ""),
-        Case{u"<a>\xD800\xDC00\xDBFF\xDFFF</a>", "a['{55296}{56320}{56319}{57343}']"},
-        Case{u"\uFEFF<List xmlns='urn:test' Hidden='1' Name='&lt;&#x41;\n'/>",
-             "List(xmlns='urn:test' Hidden='1' Name='<A ' Scope~'private')"},
-        Case{u"<?xml version='1.0' encoding='Shift_JIS'?><!-- <!DOCTYPE x> --><?p?>\n"
-             u"<Value xmlns='urn:test'>\xE4</Value><!-- end -->\n",
-             "Value(xmlns='urn:test')['{228}']"},
-        Holding(u"\n <Value> </Value>\n <Value>\r\n a\rb </Value>\n",
-                "Value[' '] Value['\n a\nb ']"),
-        Holding(u"<Value>a&amp;<![CDATA[<b>]]>c</Value>", "Value['a&<b>c']"),
-        Holding(u" <!-- note --> <?pi  data ?> <Value/> ",
-                "!"
-                " note  ?pi data  Value"),
-        Holding(u"<Other a='1'> <B/> tail <C/> </Other>", "Other(a='1')[B ' tail ' C]"),
-        Holding(u"<o:X xmlns:o='urn:o' o:a='&quot;'><Value/></o:X>",
-                "o:X(xmlns:o='urn:o' o:a='\"')[Value]"),
-        Holding(u"<List Name='1'/><List Hidden='1' Name='2' Scope='s'/><List Name='3'/>",
-                "List(Name='1' Scope~'private' Hidden~'0') "
-                "List(Hidden='1' Name='2' Scope='s') "
-                "List(Name='3' Scope~'private' Hidden~'0')"),
-        Case{u"<List Name='x'><Nowhere b='c'/></List>", "List(Name='x')[Nowhere(b='c')]"},
-        Case{u"<p:Odd xmlns:p='urn:odd'> </p:Odd>", "p:Odd(xmlns:p='urn:odd')[' ']"}));
+const Case kTrees[] = {
+    Holding(u"", ""),
+    Holding(u"\n  \t", ""),
+    {u"<a>\xD800\xDC00\xDBFF\xDFFF</a>", "a['{55296}{56320}{56319}{57343}']"},
+    {u"\uFEFF<List xmlns='urn:test' Hidden='1' Name='&lt;&#x41;\n'/>",
+     "List(xmlns='urn:test' Hidden='1' Name='<A ' Scope~'private')"},
+    {u"<?xml version='1.0' encoding='Shift_JIS'?><!-- <!DOCTYPE x> --><?p?>\n"
+     u"<Value xmlns='urn:test'>\xE4</Value><!-- end -->\n",
+     "Value(xmlns='urn:test')['{228}']"},
+    Holding(u"\n <Value> </Value>\n <Value>\r\n a\rb </Value>\n", "Value[' '] Value['\n a\nb ']"),
+    Holding(u"<Value>a&amp;<![CDATA[<b>]]>c</Value>", "Value['a&<b>c']"),
+    Holding(u" <!-- note --> <?pi  data ?> <Value/> ",
+            "!"
+            " note  ?pi data  Value"),
+    Holding(u"<Other a='1'> <B/> tail <C/> </Other>", "Other(a='1')[B ' tail ' C]"),
+    Holding(u"<o:X xmlns:o='urn:o' o:a='&quot;'><Value/></o:X>",
+            "o:X(xmlns:o='urn:o' o:a='\"')[Value]"),
+    Holding(u"<List Name='1'/><List Hidden='1' Name='2' Scope='s'/><List Name='3'/>",
+            "List(Name='1' Scope~'private' Hidden~'0') "
+            "List(Hidden='1' Name='2' Scope='s') "
+            "List(Name='3' Scope~'private' Hidden~'0')"),
+    {u"<List Name='x'><Nowhere b='c'/></List>", "List(Name='x')[Nowhere(b='c')]"},
+    {u"<p:Odd xmlns:p='urn:odd'> </p:Odd>", "p:Odd(xmlns:p='urn:odd')[' ']"}};
 
-INSTANTIATE_TEST_SUITE_P(
-    Invalid, Loading,
-    testing::Values(
-        Case{u"<List\n xmlns='urn:test'/>",
-             "Element 'List' lacks the required attribute 'Name'. (line 1, column 1)"},
-        Case{u"<List xmlns='urn:test'\r\n Name='x' Nme='y'/>",
-             "Attribute 'Nme' is not declared for element 'List'. (line 2, column 11)"},
-        Case{u"<List xmlns='urn:test' Name='x'>\r  text</List>",
-             "Text is not allowed in element 'List'; only elements are expected. (line 2, column "
-             "3)"},
-        Case{u"<Limits xmlns='urn:test'>\n<Value/>\n<Value/></Limits>",
-             "Element 'Value' is not allowed here in element 'Limits'; expected (Value). (line 3, "
-             "column 9)"},
-        Case{u"<Limits xmlns='urn:test'/>",
-             "Element 'Limits' must not be empty; expected (Value). (line 1, column 1)"},
-        Case{u"<Limits xmlns='urn:test'><Speed/></Limits>",
-             "Element 'Speed' is not declared by the schema. (line 1, column 26)"},
-        Case{u"<Limits xmlns='urn:test' Unit='ml'><Value/></Limits>",
-             "Attribute 'Unit' of element 'Limits' is not valid: value 'ml' not in enumeration. "
-             "(line 1, column 26)"}));
+INSTANTIATE_TEST_SUITE_P(Trees, Loading, testing::ValuesIn(kTrees));
 
-INSTANTIATE_TEST_SUITE_P(
-    Malformed, Loading,
-    testing::Values(
-        Case{u"", "The text is empty; a root element was expected. (line 1, column 1)"},
-        Case{u" \r\n\t", "The text is empty; a root element was expected. (line 1, column 1)"},
-        Case{u"\uFEFF", "The text is empty; a root element was expected. (line 1, column 1)"},
-        Case{u"<!-- only -->", "There is no root element; expected one here. (line 1, column 14)"},
-        Case{u"plain", "There is no root element; expected one here. (line 1, column 1)"},
-        Case{u"<a>\n<b></a>", "End tag '</a>' does not match; expected '</b>'. (line 2, column 4)"},
-        Case{u"<a>\n", "The text ends inside element 'a'; expected '</a>'. (line 2, column 1)"},
-        Case{u"<a>\n <b c='>",
-             "The text ends inside the markup that begins here; expected '>'. (line 2, column 2)"},
-        Case{u"<a><!-- ->",
-             "The text ends inside the markup that begins here; expected '-->'. (line 1, column "
-             "4)"},
-        Case{u"<a/><b/>",
-             "Only one root element is allowed; expected the end of the text, a comment or a "
-             "processing instruction. (line 1, column 5)"},
-        Case{u"<a b='1' c='2' b='3'/>",
-             "Attribute 'b' is given twice in element 'a'. (line 1, column 16)"},
-        Case{u"<a b=1/>",
-             "An attribute value of element 'a' is not quoted; expected '\"' or \"'\". (line 1, "
-             "column 6)"},
-        Case{u"<a>&nbsp;</a>",
-             "Entity 'nbsp' is not defined; expected 'amp', 'lt', 'gt', 'apos' or 'quot'. (line 1, "
-             "column 4)"},
-        Case{u"<p:a/>",
-             "Prefix 'p' is not declared; expected an attribute 'xmlns:p'. (line 1, column 1)"},
-        Case{u"<?xml version='1.1'?><a/>",
-             "XML version '1.1' is not supported; expected '1.0'. (line 1, column 7)"},
-        Case{u"\n<!DOCTYPE a [<!ENTITY b 'c'>]><a>&b;</a>",
-             "DTD is prohibited. (line 2, column 1)"},
-        Case{u"<a b='\x1'/>", "Character U+0001 is not allowed in XML. (line 1, column 7)"},
-        Case{std::u16string(u"<a>\0</a>", 8),
-             "Character U+0000 is not allowed in XML. (line 1, column 4)"},
-        Case{u"<a>0123456789012345678901234567890123456789\n\xFFFF</a>",
-             "Character U+FFFF is not allowed in XML. (line 2, column 1)"},
-        Case{u"<a>" + std::u16string{0xD83D, 0xDE00, 0xD83D} + u"</a>",
-             "Unpaired surrogate U+D83D is not a character. (line 1, column 6)"},
-        Case{u"<a>" + std::u16string{0xDE00} + u"</a>",
-             "Unpaired surrogate U+DE00 is not a character. (line 1, column 4)"},
-        Case{u"<a>\xDFFF</a>", "Unpaired surrogate U+DFFF is not a character. (line 1, column 4)"},
-        Case{u"<a>&#xD83D;</a>",
-             "Reference '&#xD83D;' is to U+D83D, which is not allowed in XML. (line 1, column 4)"},
-        Case{u"<a>&#0;</a>",
-             "Reference '&#0;' is to U+0000, which is not allowed in XML. (line 1, column 4)"}));
+const Case kInvalid[] = {
+    {u"<List\n xmlns='urn:test'/>",
+     "Element 'List' lacks the required attribute 'Name'. (line 1, column 1)"},
+    {u"<List xmlns='urn:test'\r\n Name='x' Nme='y'/>",
+     "Attribute 'Nme' is not declared for element 'List'. (line 2, column 11)"},
+    {u"<List xmlns='urn:test' Name='x'>\r  text</List>",
+     "Text is not allowed in element 'List'; only elements are expected. (line 2, column "
+     "3)"},
+    {u"<Limits xmlns='urn:test'>\n<Value/>\n<Value/></Limits>",
+     "Element 'Value' is not allowed here in element 'Limits'; expected (Value). (line 3, "
+     "column 9)"},
+    {u"<Limits xmlns='urn:test'/>",
+     "Element 'Limits' must not be empty; expected (Value). (line 1, column 1)"},
+    {u"<Limits xmlns='urn:test'><Speed/></Limits>",
+     "Element 'Speed' is not declared by the schema. (line 1, column 26)"},
+    {u"<Limits xmlns='urn:test' Unit='ml'><Value/></Limits>",
+     "Attribute 'Unit' of element 'Limits' is not valid: value 'ml' not in enumeration. "
+     "(line 1, column 26)"}};
+
+INSTANTIATE_TEST_SUITE_P(Invalid, Loading, testing::ValuesIn(kInvalid));
+
+const Case kMalformed[] = {
+    {u"", "The text is empty; a root element was expected. (line 1, column 1)"},
+    {u" \r\n\t", "The text is empty; a root element was expected. (line 1, column 1)"},
+    {u"\uFEFF", "The text is empty; a root element was expected. (line 1, column 1)"},
+    {u"<!-- only -->", "There is no root element; expected one here. (line 1, column 14)"},
+    {u"plain", "There is no root element; expected one here. (line 1, column 1)"},
+    {u"<a>\n<b></a>", "End tag '</a>' does not match; expected '</b>'. (line 2, column 4)"},
+    {u"<a>\n", "The text ends inside element 'a'; expected '</a>'. (line 2, column 1)"},
+    {u"<a>\n <b c='>",
+     "The text ends inside the markup that begins here; expected '>'. (line 2, column 2)"},
+    {u"<a><!-- ->",
+     "The text ends inside the markup that begins here; expected '-->'. (line 1, column "
+     "4)"},
+    {u"<a/><b/>",
+     "Only one root element is allowed; expected the end of the text, a comment or a "
+     "processing instruction. (line 1, column 5)"},
+    {u"<a b='1' c='2' b='3'/>", "Attribute 'b' is given twice in element 'a'. (line 1, column 16)"},
+    {u"<a b=1/>",
+     "An attribute value of element 'a' is not quoted; expected '\"' or \"'\". (line 1, "
+     "column 6)"},
+    {u"<a>&nbsp;</a>",
+     "Entity 'nbsp' is not defined; expected 'amp', 'lt', 'gt', 'apos' or 'quot'. (line 1, "
+     "column 4)"},
+    {u"<p:a/>", "Prefix 'p' is not declared; expected an attribute 'xmlns:p'. (line 1, column 1)"},
+    {u"<?xml version='1.1'?><a/>",
+     "XML version '1.1' is not supported; expected '1.0'. (line 1, column 7)"},
+    {u"\n<!DOCTYPE a [<!ENTITY b 'c'>]><a>&b;</a>", "DTD is prohibited. (line 2, column 1)"},
+    {u"<a b='\x1'/>", "Character U+0001 is not allowed in XML. (line 1, column 7)"},
+    {std::u16string(u"<a>\0</a>", 8), "Character U+0000 is not allowed in XML. (line 1, column 4)"},
+    {u"<a>0123456789012345678901234567890123456789\n\xFFFF</a>",
+     "Character U+FFFF is not allowed in XML. (line 2, column 1)"},
+    {u"<a>" + std::u16string{0xD83D, 0xDE00, 0xD83D} + u"</a>",
+     "Unpaired surrogate U+D83D is not a character. (line 1, column 6)"},
+    {u"<a>" + std::u16string{0xDE00} + u"</a>",
+     "Unpaired surrogate U+DE00 is not a character. (line 1, column 4)"},
+    {u"<a>\xDFFF</a>", "Unpaired surrogate U+DFFF is not a character. (line 1, column 4)"},
+    {u"<a>&#xD83D;</a>",
+     "Reference '&#xD83D;' is to U+D83D, which is not allowed in XML. (line 1, column 4)"},
+    {u"<a>&#0;</a>",
+     "Reference '&#0;' is to U+0000, which is not allowed in XML. (line 1, column 4)"}};
+
+INSTANTIATE_TEST_SUITE_P(Malformed, Loading, testing::ValuesIn(kMalformed));
 
 // Start tags with a running number in place of "#".
 std::u16string Numbered(std::u16string_view pattern, size_t count) {
