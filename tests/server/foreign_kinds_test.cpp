@@ -67,20 +67,20 @@ class ForeignBlock : public ForeignObject {
     if (whenAsked) std::exchange(whenAsked, nullptr)();
     return Answer(isStructuredText, out);
   }
-  virtual HRESULT STDMETHODCALLTYPE get_IsSFCCodeBlock(VARIANT_BOOL* out) {
-    return Answer(false, out);
+  virtual HRESULT STDMETHODCALLTYPE get_IsSFCCodeBlock(VARIANT_BOOL* is) {
+    return Answer(false, is);
   }
-  virtual HRESULT STDMETHODCALLTYPE get_IsILCodeBlock(VARIANT_BOOL* out) {
-    return Answer(false, out);
+  virtual HRESULT STDMETHODCALLTYPE get_IsILCodeBlock(VARIANT_BOOL* is) {
+    return Answer(false, is);
   }
-  virtual HRESULT STDMETHODCALLTYPE get_IsFBDCodeBlock(VARIANT_BOOL* out) {
-    return Answer(false, out);
+  virtual HRESULT STDMETHODCALLTYPE get_IsFBDCodeBlock(VARIANT_BOOL* is) {
+    return Answer(false, is);
   }
-  virtual HRESULT STDMETHODCALLTYPE get_IsLDCodeBlock(VARIANT_BOOL* out) {
-    return Answer(false, out);
+  virtual HRESULT STDMETHODCALLTYPE get_IsLDCodeBlock(VARIANT_BOOL* is) {
+    return Answer(false, is);
   }
-  virtual HRESULT STDMETHODCALLTYPE get_IsFDCodeBlock(VARIANT_BOOL* out) {
-    return Answer(false, out);
+  virtual HRESULT STDMETHODCALLTYPE get_IsFDCodeBlock(VARIANT_BOOL* is) {
+    return Answer(false, is);
   }
 
   std::u16string name = u"Foreign";
@@ -99,11 +99,11 @@ class ForeignModule : public ForeignObject {
     *out = BStr(u"Module").Detach();
     return S_OK;
   }
-  virtual HRESULT STDMETHODCALLTYPE get_IsControlModule(VARIANT_BOOL* out) {
-    return Answer(false, out);
+  virtual HRESULT STDMETHODCALLTYPE get_IsControlModule(VARIANT_BOOL* is) {
+    return Answer(false, is);
   }
-  virtual HRESULT STDMETHODCALLTYPE get_IsSingleControlModule(VARIANT_BOOL* out) {
-    return Answer(true, out);
+  virtual HRESULT STDMETHODCALLTYPE get_IsSingleControlModule(VARIANT_BOOL* is) {
+    return Answer(true, is);
   }
 };
 
