@@ -3,6 +3,7 @@
 #define PRAXEN_CORE_LOCALE_H_
 
 #include <string>
+#include <string_view>
 
 namespace praxen::detail {
 
@@ -12,6 +13,10 @@ std::u16string GetDecimalSeparator();
 
 /// The same as the system reports it.
 std::u16string SystemDecimalSeparator();
+
+/// The separator in UTF-8, or in another encoding, whose separators have one byte; empty when it is
+/// not one UTF-16 unit. Elsewhere than on Windows.
+std::u16string DecodeSeparator(std::string_view bytes);
 
 /// Reports a decimal separator.
 using DecimalSeparatorQuery = std::u16string (*)();

@@ -25,22 +25,21 @@ std::string_view ChosenLocale() {
   return {};
 }
 
-// UTF-8 of one character below U+10000; other encodings have separators of one byte only.
-std::u16string Decoded(std::string_view bytes) {
-  if (bytes.size() == 1) return {static_cast<char16_t>(static_cast<unsigned char>(bytes[0]))};
-  std::u16string text = FromUtf8(bytes);
-  return text.size() == 1 && text[0] != u'\uFFFD' ? text : std::u16string();
-}
-
 std::u16string SeparatorOf(const char* localeName) {
   const locale_t locale = newlocale(LC_NUMERIC_MASK, localeName, nullptr);
   if (locale == nullptr) return {};
-  std::u16string separator = Decoded(nl_langinfo_l(RADIXCHAR, locale));
+  std::u16string separator = DecodeSeparator(nl_langinfo_l(RADIXCHAR, locale));
   freelocale(locale);
   return separator;
 }
 
 }  // namespace
+
+std::u16string DecodeSeparator(std::string_view bytes) {
+  if (bytes.size() == 1) return {static_cast<char16_t>(static_cast<unsigned char>(bytes[0]))};
+  std::u16string text = FromUtf8(bytes);
+  return text.size() == 1 ? text : std::u16string();
+}
 
 // Asked for every number, so the answer is kept until another locale is chosen. A locale that is
 // not installed leaves programs in the C locale, and so does this.

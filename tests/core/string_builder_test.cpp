@@ -56,7 +56,7 @@ TEST(CStringBuilder, EditsText) {
   builder.Remove(3, 3).Remove(0, 1).Remove(4, 1).Remove(4, 0);
   EXPECT_EQ(builder.ToString(), u"bcde");
   builder.Chars(1, u"XY");
-  EXPECT_EQ(builder.Chars(1), u"X");
+  EXPECT_EQ(builder.Chars(0) + builder.Chars(1), u"bX");
   builder.Length(2);
   builder.Length(4);
   EXPECT_EQ(builder.ToString(), Text(std::u16string_view(u"bX\0\0", 4)));

@@ -3,10 +3,15 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+#include <array>
 #include <filesystem>
 
+#include "praxen/automation/class_registry_posix.h"
 #include "praxen/automation/create_object.h"
+#include "praxen/describe/identifiers.h"
+#include "praxen/factory/classes.h"
 #include "tests/server/client.h"
+#include "tests/support/build.h"
 
 namespace praxen::detail::client {
 namespace {
@@ -61,6 +66,23 @@ TEST_F(Server, ClassesAreFoundByNameUntilTheyAreUnregistered) {
 TEST_F(Server, RegistrationThatCannotBeKeptIsAnError) {
   ::setenv("PRAXENHELPER_REGISTRY", "/proc/no/such/folder", 1);
   EXPECT_EQ(DllRegisterServer(), REGDB_E_WRITEREGDB);
+}
+
+TEST_F(Server, IsUnloadedWhenNothingOfItIsUsed) {
+  if (kHasSanitizer) GTEST_SKIP() << "the address checker knows one copy of each symbol only";
+  const fs::path file = folder_ / "copy.so";
+  fs::copy_file(PRAXEN_LIBRARY_FILE, file);
+  const std::array<ClassEntry, 1> classes = {{{"A.B", ClassId(*FindClass(u"Variable"))}}};
+  ASSERT_EQ(RegisterClasses(classes, file.string()), S_OK);
+  for (int round = 0; round < 2; ++round) {
+    Handle object;
+    ASSERT_EQ(CreateObject(u"A.B", object.Receive()), S_OK);
+    EXPECT_EQ(CoFreeUnusedLibraries(), S_OK);
+    EXPECT_EQ(GetText(object, u"PXAttribute"), u"retain");
+    object = {};
+    EXPECT_EQ(CoFreeUnusedLibraries(), S_OK);
+    EXPECT_EQ(::dlopen(file.c_str(), RTLD_NOW | RTLD_NOLOAD), nullptr);
+  }
 }
 
 }  // namespace

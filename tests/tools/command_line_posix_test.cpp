@@ -275,6 +275,7 @@ TEST_F(CommandLine, WrongUseIsToldFromBadDocuments) {
       {"check 'a\xE2\x80\xAE' ", 1, "a\\u202E: error: No such file"},
       {"'\x1b'", 2, "\"\xEF\xBF\xBD\""},
       {"check /dev/zero", 1, "too long; at most 500000000 characters are allowed"},
+      {"check 'a*.xml'", 1, "a*.xml: error: No such file"},
       {"show --all -", 2, "--json"},
       {"show --json --depth 1 -", 2, "--depth"},
       {"--help", 0, "convert"},
