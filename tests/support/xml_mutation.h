@@ -1,6 +1,6 @@
 // Changes to texts that look like XML, at the level of elements, attributes and values.
-#ifndef PRAXEN_FUZZ_XML_MUTATION_H_
-#define PRAXEN_FUZZ_XML_MUTATION_H_
+#ifndef PRAXEN_TESTS_SUPPORT_XML_MUTATION_H_
+#define PRAXEN_TESTS_SUPPORT_XML_MUTATION_H_
 
 #include <cstddef>
 #include <iterator>
@@ -24,7 +24,7 @@ struct ElementSpans {
 };
 
 /// The places of markup in a text.
-struct Markup {
+struct MarkupSpans {
   /// In document order, those without an end left out.
   std::vector<ElementSpans> elements;
   /// With the blank before them.
@@ -36,7 +36,9 @@ struct Markup {
 };
 
 /// Finds markup without checking it.
-Markup FindMarkup(std::string_view xml);
+MarkupSpans FindMarkup(std::string_view xml);
+/// The name of the first element, without a prefix.
+std::u16string RootName(std::string_view xml);
 
 class Random {
  public:
@@ -57,7 +59,10 @@ class Random {
 std::string Mutated(std::string_view xml, Random& random);
 /// The first text with an element of the second; empty when there is none or no place for it.
 std::string Spliced(std::string_view xml, std::string_view other, Random& random);
+/// The text with one character dropped, added or replaced, mostly by one that markup is made of, or
+/// with another declaration or end.
+std::u16string Spoiled(std::u16string text, Random& random);
 
 }  // namespace praxen::detail
 
-#endif  // PRAXEN_FUZZ_XML_MUTATION_H_
+#endif  // PRAXEN_TESTS_SUPPORT_XML_MUTATION_H_

@@ -1,7 +1,9 @@
 // The scan for markup, and a table of changes to what it finds.
-#include "fuzz/xml_mutation.h"
+#include "tests/support/xml_mutation.h"
 
 #include <algorithm>
+
+#include "praxen/core/text.h"
 
 namespace praxen::detail {
 
@@ -57,7 +59,7 @@ class Scanner {
  public:
   explicit Scanner(std::string_view xml) : xml_(xml) {}
 
-  Markup Scan() {
+  MarkupSpans Scan() {
     while (at_ < xml_.size()) {
       if (xml_[at_] != '<') {
         ScanText();
@@ -138,7 +140,7 @@ class Scanner {
   const std::string_view xml_;
   size_t at_ = 0;
   std::vector<size_t> open_;
-  Markup found_;
+  MarkupSpans found_;
 };
 
 std::string Replaced(std::string_view xml, Span span, std::string_view with) {
@@ -151,7 +153,7 @@ std::string Inserted(std::string_view xml, size_t at, std::string_view what) {
 
 struct Change {
   std::string_view xml;
-  const Markup& markup;
+  const MarkupSpans& markup;
   Random& random;
 
   // The document element is spared, where there are others.
@@ -272,14 +274,63 @@ constexpr Mutation kMutations[] = {ChangeValue,      ChangeValue,      ChangeVal
                                    DropAttribute,    CopyAttribute,    Unwrap,      MakeRoot,
                                    InsertBehindName, ChangeCase,       Rename};
 
+constexpr std::u16string_view kCharacters =
+    u"<>&'\"=/!?[]-;:#x \t\r\n0aA.,\x01\x7F\x85\xA0\u2028\uFEFF\uFFFD\uFFFE\xD83D\xDE00";
+
+constexpr std::u16string_view kDeclarations[] = {
+    u"",
+    u" ",
+    u"\uFEFF",
+    u"<?xml version='1.0'?>",
+    u"<?xml version=\"1.0\" ?>\n\n",
+    u"<?xml version='1.1'?>",
+    u"<?xml version='1.2'?>",
+    u"<?xml version='1.0' encoding='utf-8'?>",
+    u"<?xml version='1.0' encoding='UTF-16LE'?>",
+    u"<?xml version='1.0' encoding='latin1'?>",
+    u"<?xml version='1.0' encoding=''?>",
+    u"<?xml version='1.0' encoding='x y'?>",
+    u"<?xml version='1.0' standalone='yes'?>",
+    u"<?xml version='1.0' standalone='maybe'?>",
+    u"<?xml encoding='UTF-16'?>",
+    u"<?xml encoding='UTF-16' version='1.0'?>",
+    u"<?xml version='1.0'encoding='UTF-16'?>",
+    u"<?xml version='1.0' version='1.0'?>",
+    u"<?xml version='1.0' other='1'?>",
+    u"<?xml  version = '1.0'\r\nencoding\t=\"UTF-16\"?>",
+    u"<?xml?>",
+    u"<?XML version='1.0'?>",
+    u"<?xml-a b?>",
+    u" <?xml version='1.0'?>",
+    u"<!DOCTYPE a>",
+    u"<!-- a -->"};
+
+constexpr std::u16string_view kEnds[] = {
+    u" ",     u"\r\n",         u"<!-- a -->", u"<?a b?>", u"a", u"<a/>",
+    u"&#10;", u"<![CDATA[]]>", u"</Program>", u"\uFEFF",  u"<", std::u16string_view(u"\0", 1)};
+
+std::u16string WithOtherDeclaration(const std::u16string& text, Random& random) {
+  constexpr std::u16string_view kEnd = u"?>";
+  const size_t end = text.starts_with(u"<?xml") ? text.find(kEnd) : text.npos;
+  const size_t root = end == text.npos ? 0 : end + kEnd.size();
+  return std::u16string(random.OneOf(kDeclarations)) + text.substr(root);
+}
+
 }  // namespace
 
-Markup FindMarkup(std::string_view xml) { return Scanner(xml).Scan(); }
+MarkupSpans FindMarkup(std::string_view xml) { return Scanner(xml).Scan(); }
+
+std::u16string RootName(std::string_view xml) {
+  const MarkupSpans markup = FindMarkup(xml);
+  if (markup.elements.empty()) return {};
+  const std::string_view name = markup.elements.front().name.In(xml);
+  return FromUtf8(name.substr(name.find(':') + 1));
+}
 
 std::string Mutated(std::string_view xml, Random& random) {
   std::string changed(xml);
   for (size_t count = 1 + random.Below(3); count > 0; --count) {
-    const Markup markup = FindMarkup(changed);
+    const MarkupSpans markup = FindMarkup(changed);
     if (markup.elements.empty()) return {};
     const std::string next = random.OneOf(kMutations)({changed, markup, random});
     if (!next.empty()) changed = next;
@@ -288,10 +339,20 @@ std::string Mutated(std::string_view xml, Random& random) {
 }
 
 std::string Spliced(std::string_view xml, std::string_view other, Random& random) {
-  const Markup markup = FindMarkup(xml), others = FindMarkup(other);
+  const MarkupSpans markup = FindMarkup(xml), others = FindMarkup(other);
   if (markup.elements.size() < 2 || others.elements.size() < 2) return {};
   const Change to{xml, markup, random}, from{other, others, random};
   return Inserted(xml, to.Element().all.begin, from.Element().all.In(other));
+}
+
+std::u16string Spoiled(std::u16string text, Random& random) {
+  if (random.OneIn(8)) return WithOtherDeclaration(text, random);
+  if (random.OneIn(16)) return text.append(random.OneOf(kEnds));
+  if (text.empty()) return text;
+  const size_t at = random.Below(text.size());
+  if (random.OneIn(3)) return text.erase(at, 1);
+  const char16_t character = random.OneOf(kCharacters);
+  return text.replace(at, random.Below(2), 1, character);
 }
 
 }  // namespace praxen::detail

@@ -1,0 +1,78 @@
+// The direct way of reading, held against the reference way.
+#include "praxen/factory/direct_reading.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "tests/support/both_ways.h"
+#include "tests/support/random_documents.h"
+#include "tests/support/sound_documents.h"
+#include "tests/support/xml_mutation.h"
+
+namespace praxen::detail {
+namespace {
+
+TEST(DirectReading, TakesTheOrdinaryDocument) {
+  const std::vector<SoundDocument> documents = SoundDocuments();
+  std::string others;
+  size_t taken = 0;
+  for (const SoundDocument& document : documents) {
+    if (ReadDirectly(document.text)) {
+      ++taken;
+    } else {
+      others += "  " + document.name + "\n";
+    }
+  }
+  EXPECT_GE(static_cast<double>(taken), 0.95 * static_cast<double>(documents.size()))
+      << "given up:\n"
+      << others;
+}
+
+// With the decimal separator that the parameter tells.
+class BothWaysOfReading : public testing::TestWithParam<bool> {
+ protected:
+  BothWaysOfReading() {
+    if (GetParam()) comma_.emplace();
+  }
+
+  void Compare(const Text& text) {
+    const BothWays ways = ReadBothWays(text);
+    EXPECT_TRUE(ways.difference.empty()) << ways.difference << "\nof\n" << text.utf8();
+    ++(ways.isDirect ? direct_ : givenUp_);
+  }
+
+  size_t direct_ = 0, givenUp_ = 0;
+
+ private:
+  std::optional<DecimalComma> comma_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Separators, BothWaysOfReading, testing::Bool(),
+                         [](const auto& separator) { return separator.param ? "Comma" : "Point"; });
+
+TEST_P(BothWaysOfReading, BuildTheSameOfSoundDocuments) {
+  for (const SoundDocument& document : SoundDocuments()) Compare(document.text);
+}
+
+TEST_P(BothWaysOfReading, BuildTheSameOfGeneratedDocuments) {
+  RandomDocuments documents(GetParam() ? 1 : 2);
+  for (int count = 0; count < 1000; ++count) Compare(documents.Next().text);
+}
+
+TEST_P(BothWaysOfReading, BuildTheSameOfChangedDocuments) {
+  Random random(GetParam() ? 1 : 2);
+  const std::vector<SoundDocument> documents = SoundDocuments();
+  for (int count = 0; count < 2000; ++count) {
+    const std::string xml = random.OneOf(documents).text.utf8();
+    std::u16string text = FromUtf8(random.OneIn(3) ? xml : Mutated(xml, random));
+    if (random.OneIn(3)) text = Spoiled(std::move(text), random);
+    Compare(text);
+  }
+  // Of both there are enough to tell.
+  EXPECT_GT(direct_, 100u);
+  EXPECT_GT(givenUp_, 100u);
+}
+
+}  // namespace
+}  // namespace praxen::detail

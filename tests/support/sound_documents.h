@@ -1,0 +1,24 @@
+// The documents that the tests expect.
+#ifndef PRAXEN_TESTS_SUPPORT_SOUND_DOCUMENTS_H_
+#define PRAXEN_TESTS_SUPPORT_SOUND_DOCUMENTS_H_
+
+#include <string>
+#include <vector>
+
+#include "praxen/core/text.h"
+
+namespace praxen::detail {
+
+struct SoundDocument {
+  std::string name;
+  Text text;
+};
+
+/// A document of every class that the factory reads, with everything set and with nothing but what
+/// is required, each with CR LF, with LF and without line breaks, and the samples of the command
+/// line. Numbers have the locale's decimal separator.
+std::vector<SoundDocument> SoundDocuments();
+
+}  // namespace praxen::detail
+
+#endif  // PRAXEN_TESTS_SUPPORT_SOUND_DOCUMENTS_H_
