@@ -1,11 +1,12 @@
 // Runs the tests, all of them or with --file=PATH those of one source file. With --remake what they
-// expect in recorded files is recorded anew.
+// expect in recorded files is recorded anew; with --reference nothing is read directly.
 #include <gtest/gtest.h>
 
 #include <iostream>
 #include <string>
 #include <string_view>
 
+#include "praxen/factory/direct_reading.h"
 #include "tests/support/recorded.h"
 
 namespace {
@@ -34,6 +35,10 @@ int main(int argc, char** argv) {
     const std::string_view argument = argv[i];
     if (argument == "--remake") {
       praxen::detail::RemakeRecorded();
+      continue;
+    }
+    if (argument == "--reference") {
+      praxen::detail::UseDirectReading(false);
       continue;
     }
     if (!argument.starts_with(kFileOption)) {
