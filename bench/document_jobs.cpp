@@ -8,6 +8,7 @@
 
 #include "bench/documents.h"
 #include "bench/peers.h"
+#include "tests/support/both_ways.h"
 
 namespace praxen::detail::bench {
 namespace {
@@ -35,8 +36,10 @@ Job WritingJob(const std::string& task, const Ref<Class>& object, size_t amount)
 }
 
 template <class Class>
-Job ReadingJob(const std::string& task, const std::vector<Text>& texts, size_t amount) {
-  return {task, std::string(kOurs), amount, [texts] {
+Job ReadingJob(const std::string& task, const std::vector<Text>& texts, size_t amount,
+               bool isDirect = true) {
+  return {task, std::string(isDirect ? kOurs : kReference), amount, [texts, isDirect] {
+            const WayOfReading way(isDirect);
             auto objects = std::make_shared<std::vector<Ref<Class>>>();
             for (const Text& text : texts) objects->push_back(Deserialization<Class>()(text));
             return objects;
@@ -66,7 +69,9 @@ template <class Class>
 void AddReading(std::vector<Job>& jobs, const std::string& task, const std::vector<Text>& texts) {
   size_t amount = 0;
   for (const Text& text : texts) amount += text.size();
-  jobs.push_back(ReadingJob<Class>(task, texts, amount));
+  for (const bool isDirect : {true, false}) {
+    jobs.push_back(ReadingJob<Class>(task, texts, amount, isDirect));
+  }
   const std::vector<Peer> peers = ReadingPeers(std::is_same_v<Class, Program>);
   RequireAgreement(peers, texts.front());
   for (const Peer& peer : peers) jobs.push_back(PeerJob(task, peer, texts, amount));
@@ -135,6 +140,19 @@ void AddReadingTwice(std::vector<Job>& jobs) {
   }
 }
 
+// A foreign element with a prefix is nothing that is read directly.
+void AddGivenUp(std::vector<Job>& jobs) {
+  const std::string task(kGivenUp);
+  const Ref<Program> program = BuildProgram(20'000);
+  program->Description = u"All of the plant";
+  std::u16string text(program->Serialize().view());
+  text.insert(text.rfind(u"</"), u"<o:Other xmlns:o='other'/>");
+  if (ReadDirectly(text)) throw std::runtime_error("nothing is given up");
+  for (const bool isDirect : {true, false}) {
+    jobs.push_back(ReadingJob<Program>(task, {text}, text.size(), isDirect));
+  }
+}
+
 // One document after the other, so that none has to find its memory between the objects of others.
 std::vector<Result> MeasureDocuments(int rounds) {
   using AddJobs = void (*)(std::vector<Job>&);
@@ -144,7 +162,13 @@ std::vector<Result> MeasureDocuments(int rounds) {
       [](auto& jobs) { AddDocument(jobs, "hardware", BuildHardware(200'000)); },
       [](auto& jobs) { AddDocument(jobs, "messages", BuildMessages(100'000)); },
       [](auto& jobs) { AddDocument(jobs, "constants", BuildConstants(100'000)); },
+      [](auto& jobs) { AddDocument(jobs, "modules", BuildModules(15'000)); },
+      [](auto& jobs) { AddDocument(jobs, "charts", BuildCharts(300)); },
+      [](auto& jobs) { AddDocument(jobs, "texts", BuildTexts(5'000)); },
+      [](auto& jobs) { AddDocument(jobs, "instructions", BuildInstructions(50'000)); },
+      [](auto& jobs) { AddReading<Program>(jobs, "edited, read", {BuildEdited(30'000)}); },
       [](auto& jobs) { AddReading<Program>(jobs, "small, read", BuildSmallDocuments(10'000)); },
+      &AddGivenUp,
       &AddReadingTwice,
   };
   std::vector<Result> results;

@@ -117,6 +117,29 @@ Ref<ProjectConstants> BuildConstants(size_t count) {
   return constants;
 }
 
+Ref<ControlModuleType> BuildModules(size_t count) {
+  auto type = New<ControlModuleType>();
+  type->Name = u"Plant";
+  const auto place = [](size_t number) { return static_cast<double>(number % 8'000) / 4'000 - 1; };
+  for (size_t i = 0; i < count; ++i) {
+    const auto instance = New<ControlModule>();
+    instance->Name = Numbered(u"Valve", i);
+    instance->TypeName = u"ValveUni";
+    instance->Guid = Guid(i);
+    instance->CMConnections->Add1(Text(u"Name"), u"'" + Numbered(u"V", i) + u"'");
+    const auto drawn =
+        instance->CMConnections->Add2(Text(u"Open"), Numbered(u"Control.Open", i), true);
+    for (size_t point = 0; point < 3; ++point) {
+      drawn->Points->Add1(place(7 * i + point), place(11 * i + 3 * point));
+    }
+    instance->GraphPos->XPos = place(13 * i);
+    instance->GraphPos->YPos = place(17 * i);
+    instance->GraphPos->XScale = instance->GraphPos->YScale = 0.05;
+    type->ControlModules->Add(instance);
+  }
+  return type;
+}
+
 std::vector<Text> BuildSmallDocuments(size_t count) {
   std::vector<Text> documents;
   for (size_t i = 0; i < count; ++i) {

@@ -15,6 +15,18 @@ Ref<Program> BuildVariables(size_t count);
 Ref<HWUnit> BuildHardware(size_t channels);
 Ref<MessageBucket> BuildMessages(size_t count);
 Ref<ProjectConstants> BuildConstants(size_t count);
+/// A type with instances that are connected and placed.
+Ref<ControlModuleType> BuildModules(size_t count);
+/// Code blocks with sequential function charts, whose selections are nested.
+Ref<Program> BuildCharts(size_t count);
+/// Function blocks with long descriptions and comments in the code, in several scripts and with
+/// characters that markup escapes.
+Ref<Program> BuildTexts(size_t count);
+/// Code blocks with instruction lists, of so many rows together.
+Ref<Program> BuildInstructions(size_t rows);
+/// A program as people edit one: indented, with quotes of both kinds, comments between the elements
+/// of lists, character references, CDATA sections and CR LF line ends.
+Text BuildEdited(size_t variables);
 /// Programs of about 1,000 characters each.
 std::vector<Text> BuildSmallDocuments(size_t count);
 

@@ -23,6 +23,8 @@ struct Goal {
 std::vector<Goal> DocumentGoals(const std::vector<Result>& documents);
 /// The goals for the time per character as documents grow.
 std::vector<Goal> GrowthGoals(const std::vector<Result>& growth);
+/// The goal for the documents that the tests expect: how many of them are read directly.
+std::vector<Goal> ShareGoals();
 
 void PrintGoals(const std::vector<Goal>& goals);
 

@@ -16,13 +16,6 @@ double SecondsSince(Clock::time_point start) {
   return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-double Median(std::vector<double> values) {
-  if (values.empty()) return 0;
-  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-  std::ranges::nth_element(values, middle);
-  return *middle;
-}
-
 std::string NameOf(const Job& job) { return job.task + ", " + job.means; }
 
 void Run(benchmark::State& state, const Job& job) {
@@ -68,6 +61,13 @@ MemoryUse MeasureMemory(const Job& job) {
 }
 
 }  // namespace
+
+double Median(std::vector<double> values) {
+  if (values.empty()) return 0;
+  const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+  std::ranges::nth_element(values, middle);
+  return *middle;
+}
 
 std::vector<Result> Measure(const std::vector<Job>& jobs, int rounds) {
   for (const Job& job : jobs) {

@@ -39,10 +39,18 @@ struct Result {
 
 /// Our own means, which the others are compared to.
 inline constexpr std::string_view kOurs = "praxen";
+/// The same, without reading anything directly.
+inline constexpr std::string_view kReference = "praxen reference";
+
+/// The task of reading a document that the direct way gives up at its last element.
+inline constexpr std::string_view kGivenUp = "program given up, read";
 
 /// The task of reading a document twice, and to do so on two threads at once.
 inline constexpr std::string_view kReadTwice = "program, read twice";
 inline constexpr std::string_view kTwoThreads = "two threads";
+
+/// The value in the middle; 0 of none.
+double Median(std::vector<double> values);
 
 /// Measures jobs in rounds that are taken in random turn.
 std::vector<Result> Measure(const std::vector<Job>& jobs, int rounds);

@@ -27,7 +27,8 @@ void RunAll(int rounds) {
   PrintRates(MeasureAutomation(rounds));
   PrintModelMemory();
   std::vector<Goal> goals = DocumentGoals(documents);
-  for (const std::vector<Goal>& others : {MemoryGoals(), GrowthGoals(growth)}) {
+  for (const std::vector<Goal>& others :
+       {MemoryGoals(), GrowthGoals(growth), ShareGoals(), StartGoals()}) {
     goals.insert(goals.end(), others.begin(), others.end());
   }
   PrintGoals(goals);

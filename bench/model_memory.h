@@ -10,7 +10,7 @@ namespace praxen::detail::bench {
 
 /// Prints bytes per variable, function block and channel, after building and after reading.
 void PrintModelMemory();
-/// The memory of a large program's reading and of its objects against the bytes of its text.
+/// The memory of a large program's reading against the bytes of its text.
 std::vector<Goal> MemoryGoals();
 
 }  // namespace praxen::detail::bench
