@@ -10,6 +10,8 @@
 #include <ostream>
 
 #include "praxen/core/error.h"
+#include "praxen/core/region.h"
+#include "praxen/core/thread_state.h"
 
 namespace praxen {
 
@@ -21,6 +23,16 @@ namespace {
 
 constexpr size_t kLongestText = 0x7FFFFFFF;
 constexpr char32_t kReplacement = 0xFFFD;
+constexpr uint32_t kInRegion = 1U << 31;
+constexpr size_t kLongestInRegion =
+    (Region::kLargest - sizeof(TextBlock)) / sizeof(char16_t) - sizeof(TextBlock);
+
+char16_t* MakeBlock(void* memory, uint32_t references, size_t length) {
+  auto* const block = new (memory) TextBlock{references, static_cast<uint32_t>(length)};
+  auto* const characters = reinterpret_cast<char16_t*>(block + 1);
+  characters[length] = 0;
+  return characters;
+}
 
 char32_t NextCodePoint(std::u16string_view text, size_t& at) {
   const char16_t first = text[at++];
@@ -38,15 +50,19 @@ char16_t* Text::Allocate(size_t length) {
   if (length > kLongestText) throw Overflow();
   void* const memory = std::malloc(BlockSize(length));
   if (memory == nullptr) throw std::bad_alloc();
-  auto* const block = new (memory) TextBlock{1, static_cast<uint32_t>(length)};
-  auto* const characters = reinterpret_cast<char16_t*>(block + 1);
-  characters[length] = 0;
-  return characters;
+  return MakeBlock(memory, 1, length);
+}
+
+char16_t* Text::AllocateFinal(size_t length) {
+  if (length > kLongestInRegion) return Allocate(length);
+  ThreadState* const state = ThreadState::Find();
+  if (state == nullptr || state->region == nullptr) return Allocate(length);
+  return MakeBlock(state->region->Allocate(BlockSize(length)), kInRegion | 1, length);
 }
 
 Text::Text(std::u16string_view characters) : characters_(kEmpty.characters) {
   if (characters.empty()) return;
-  char16_t* const copy = Allocate(characters.size());
+  char16_t* const copy = AllocateFinal(characters.size());
   std::memcpy(copy, characters.data(), characters.size() * sizeof(char16_t));
   characters_ = copy;
 }
@@ -66,8 +82,12 @@ Text Text::Join(std::u16string_view left, std::u16string_view right) {
 }
 
 void Text::ReleaseCounted(uint32_t held) noexcept {
+  constexpr uint32_t kCount = ~kInRegion;
   // The only holder need not pay for an atomic decrement.
-  if (held == 1 || references().fetch_sub(1, std::memory_order_acq_rel) == 1) std::free(&block());
+  const bool isLast = (held & kCount) == 1 ||
+                      (references().fetch_sub(1, std::memory_order_acq_rel) & kCount) == 1;
+  if (!isLast) return;
+  (held & kInRegion) != 0 ? Region::Free(&block()) : std::free(&block());
 }
 
 std::ostream& operator<<(std::ostream& stream, const Text& text) { return stream << ToUtf8(text); }

@@ -17,7 +17,8 @@ namespace praxen::detail {
 
 /// The storage behind a text: a head, then the characters and a terminating NUL.
 struct TextBlock {
-  /// References held; 0 marks a block of static storage that is neither counted nor freed.
+  /// References held; 0 marks a block of static storage that is neither counted nor freed. The
+  /// highest bit marks one in a `Region`.
   uint32_t references;
   uint32_t length;
 };
@@ -133,6 +134,9 @@ class Text {
 
   static Text Join(std::u16string_view left, std::u16string_view right);
   static char16_t* Allocate(size_t length);
+  /// The same for a text that stays as it is, in the region of the document that is being read if
+  /// there is one.
+  static char16_t* AllocateFinal(size_t length);
   /// In bytes, with head and NUL.
   static constexpr size_t BlockSize(size_t length) noexcept {
     return sizeof(detail::TextBlock) + (length + 1) * sizeof(char16_t);

@@ -12,6 +12,8 @@
 
 namespace praxen::detail {
 
+class Region;
+
 /// The base of what every thread has one of.
 class KeptByThread {
  public:
@@ -55,6 +57,9 @@ class ThreadState {
   /// Objects that the thread may still create before it has to ask; see `CountObject`. Only the
   /// thread itself changes it.
   std::atomic<int32_t> spareObjects = 0;
+
+  /// Where objects and texts are made while the thread reads a document; null at other times.
+  Region* region = nullptr;
 
   /// Objects that wait to be destroyed; see `Object::Release`.
   struct Doomed {

@@ -11,11 +11,14 @@
 #include "praxen/describe/reflection.h"
 #include "praxen/describe/xml_reading.h"
 #include "praxen/xml/xml_cursor.h"
+#include "praxen/xml/xml_escape.h"
 #include "praxen/xml/xml_limits.h"
 
 namespace praxen::describe {
 
 namespace {
+
+constexpr size_t kUsualDepth = 16;
 
 bool IsSame(std::u16string_view a, std::u16string_view b) {
   return a.size() == b.size() && std::memcmp(a.data(), b.data(), 2 * a.size()) == 0;
@@ -33,8 +36,12 @@ size_t PlaceOf(const std::vector<Attribute>& all, std::u16string_view name) {
 class DirectReader::Cursor final : public detail::XmlCursor {
  public:
   /// Inside so many elements, of which the innermost may have no content.
-  Cursor(XmlScanner& scanner, size_t depth, bool isEmpty)
-      : scanner_(scanner), depth_(depth), isEmpty_(isEmpty), start_(scanner.place()) {}
+  Cursor(XmlScanner& scanner, const char16_t* beforeBlanks, size_t depth, bool isEmpty)
+      : scanner_(scanner),
+        beforeBlanks_(beforeBlanks),
+        start_(scanner.place()),
+        depth_(depth),
+        isEmpty_(isEmpty) {}
 
   /// Whether anything was read.
   bool hasMoved() const {
@@ -78,7 +85,12 @@ class DirectReader::Cursor final : public detail::XmlCursor {
     return text;
   }
 
-  Text ReadMarkup(std::u16string_view) override { return scanner_.Markup(depth_); }
+  Text ReadMarkup(std::u16string_view) override {
+    if (*scanner_.place() == u'<') return scanner_.Markup(depth_);
+    // Blanks belong to the text that follows them.
+    scanner_.MoveTo(beforeBlanks_);
+    return EscapeXml(scanner_.Content(), kEscapedInMarkup);
+  }
 
   void Enter() override {
     TakeName();
@@ -122,9 +134,10 @@ class DirectReader::Cursor final : public detail::XmlCursor {
   }
 
   XmlScanner& scanner_;
+  const char16_t* const beforeBlanks_;
+  const char16_t* const start_;
   const size_t depth_;
   const bool isEmpty_;
-  const char16_t* const start_;
   // The element whose start tag is being read; empty between tags.
   std::u16string_view tag_;
   const char16_t* peekedAt_ = nullptr;
@@ -133,6 +146,7 @@ class DirectReader::Cursor final : public detail::XmlCursor {
 };
 
 void DirectReader::Read(Object& object, std::u16string_view name) {
+  open_.reserve(kUsualDepth);
   Begin(object, name);
   while (!open_.empty()) ReadNext();
 }
@@ -194,6 +208,7 @@ void DirectReader::ReadDeclaration(std::u16string_view name, bool& isDeclared) {
 
 // The next piece of the content of the innermost open element.
 void DirectReader::ReadNext() {
+  beforeBlanks_ = scanner_.place();
   scanner_.SkipBlanks();
   if (scanner_.isAtEndTag()) {
     const Open closed = open_.back();
@@ -202,7 +217,12 @@ void DirectReader::ReadNext() {
     return open_.pop_back();
   }
   if (scanner_.SkipComment()) return PassComment(open_.back());
-  ReadChild(scanner_.PeekName());
+  if (*scanner_.place() == u'<') return ReadChild(scanner_.PeekName());
+  // Only markup may begin with a text.
+  Open& open = open_.back();
+  const std::vector<Child>& children = open.layout->children;
+  const bool isMarkup = open.child < children.size() && children[open.child].isMarkup;
+  if (!isMarkup || !ReadWithCursor(*open.object, children[open.child++], false)) throw XmlGivenUp();
 }
 
 void DirectReader::ReadChild(std::u16string_view name) {
@@ -290,7 +310,7 @@ void DirectReader::ReadContent(Object& object, const Child& child, std::u16strin
 
 // Whether the class took what stands there.
 bool DirectReader::ReadWithCursor(Object& object, const Child& child, bool isEmpty) {
-  Cursor cursor(scanner_, open_.size(), isEmpty);
+  Cursor cursor(scanner_, beforeBlanks_, open_.size(), isEmpty);
   child.readXML(object, cursor);
   return cursor.hasMoved();
 }

@@ -60,6 +60,8 @@ class DirectReader {
   const std::u16string_view namespace_;
   DocumentValues& values_ = DocumentValues::Instance();
   std::vector<Open> open_;
+  /// Where what is being read begins with its blanks.
+  const char16_t* beforeBlanks_ = nullptr;
 };
 
 }  // namespace praxen::describe

@@ -1,11 +1,14 @@
 // Counting and destruction of objects.
 #include "praxen/describe/object.h"
 
+#include <cstdlib>
 #include <mutex>
+#include <new>
 #include <utility>
 
 #include "praxen/core/counters.h"
 #include "praxen/core/error.h"
+#include "praxen/core/region.h"
 #include "praxen/core/thread_state.h"
 #include "praxen/describe/description.h"
 
@@ -31,6 +34,24 @@ void Destroy(Object& object, ThreadState::Doomed& doomed) noexcept {
 }
 
 }  // namespace
+
+// Before each object stands the piece of a region that it lies in, or null.
+void* Object::operator new(size_t size) {
+  static_assert(alignof(Object) <= alignof(void*));
+  ThreadState* const state = ThreadState::Find();
+  if (state != nullptr && state->region != nullptr && size <= Region::kLargest) {
+    return state->region->Allocate(size);
+  }
+  auto* const memory = static_cast<void**>(std::malloc(sizeof(void*) + size));
+  if (memory == nullptr) throw std::bad_alloc();
+  *memory = nullptr;
+  return memory + 1;
+}
+
+void Object::operator delete(void* object) noexcept {
+  void** const memory = static_cast<void**>(object) - 1;
+  *memory != nullptr ? Region::Free(object) : std::free(memory);
+}
 
 Object::Object(const ClassDescription& description, Counting counting) : counting_(counting) {
   table = description.interfaceTable();

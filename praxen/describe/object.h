@@ -3,6 +3,7 @@
 #define PRAXEN_DESCRIBE_OBJECT_H_
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <type_traits>
 #include <utility>
@@ -54,6 +55,10 @@ class Object : public detail::Interface {
   Object(const Object&) = delete;
   Object& operator=(const Object&) = delete;
   virtual ~Object();
+
+  /// Objects that are made while a document is read lie beside each other.
+  static void* operator new(size_t size);
+  static void operator delete(void* object) noexcept;
 
   void AddRef() noexcept { ++references_; }
   void Release() noexcept {

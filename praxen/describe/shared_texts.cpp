@@ -22,7 +22,8 @@ uint64_t Hash(std::u16string_view characters) {
   }
   const uint64_t mixed = (first ^ size) * 0x9E3779B97F4A7C15U + last;
   const uint64_t hash = mixed * 0x9E3779B97F4A7C15U;
-  return hash ^ hash >> 32;
+  // 0 stands for no text.
+  return (hash ^ hash >> 32) | uint64_t{1} << 63;
 }
 
 }  // namespace
@@ -31,6 +32,7 @@ Text SharedTexts::Share(std::u16string_view characters) {
   if (characters.size() > kLongest) return Text(characters);
   const uint64_t hash = Hash(characters);
   Place& place = places_[hash % kPlaces];
+  if (place.lastHash == 0) used_[usedCount_++] = static_cast<uint8_t>(hash % kPlaces);
   if (place.hash == hash && place.text == characters) return place.text;
   Text text(characters);
   if (place.lastHash == hash) {
@@ -42,7 +44,7 @@ Text SharedTexts::Share(std::u16string_view characters) {
 }
 
 void SharedTexts::Clear() noexcept {
-  for (Place& place : places_) place = {};
+  for (; usedCount_ != 0; --usedCount_) places_[used_[usedCount_ - 1]] = {};
 }
 
 }  // namespace praxen::describe

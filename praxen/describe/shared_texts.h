@@ -31,6 +31,9 @@ class SharedTexts {
   };
 
   std::array<Place, kPlaces> places_;
+  /// The places that are not empty, in the order of their use.
+  std::array<uint8_t, kPlaces> used_;
+  size_t usedCount_ = 0;
 };
 
 }  // namespace praxen::describe

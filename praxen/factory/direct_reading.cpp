@@ -24,7 +24,7 @@ Ref<Object> ReadDirectly(const Text& text, RootCreator create, const void* conte
   if (!IsShippedSchemaUsed()) return nullptr;
   // The caller's own text may change its place while it is read.
   const Text kept = text;
-  const DocumentValuesInUse values;
+  const DocumentInReading inReading(kept.size());
   try {
     XmlScanner scanner(kept);
     scanner.ReadProlog();
@@ -46,7 +46,8 @@ Ref<Object> ReadDirectly(const Text& text) {
   return ReadDirectly(
       text,
       [](std::u16string_view root, const void*) -> Ref<Object> {
-        const ClassDescription* const description = OnlyDocumentClass(root);
+        // Of several classes, it is the first one that knows all of what is read directly.
+        const ClassDescription* const description = FirstDocumentClass(root);
         return description == nullptr ? nullptr : description->create();
       },
       nullptr);

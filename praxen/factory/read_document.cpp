@@ -69,9 +69,9 @@ const ClassDescription& ClassOf(const XmlNode& root) {
 
 }  // namespace
 
-const ClassDescription* OnlyDocumentClass(std::u16string_view root) {
+const ClassDescription* FirstDocumentClass(std::u16string_view root) {
   const std::vector<const ClassDescription*> classes = ClassesOfRoot(root);
-  return classes.size() == 1 ? classes.front() : nullptr;
+  return classes.empty() ? nullptr : classes.front();
 }
 
 const std::vector<const ClassDescription*>& DocumentClasses() {

@@ -34,8 +34,8 @@ Ref<Class> ReadDocument(const Text& text, Losses* losses = nullptr) {
 
 namespace praxen::detail {
 
-/// The one class whose documents have that root element; null for none and for several.
-const describe::ClassDescription* OnlyDocumentClass(std::u16string_view root);
+/// The first class whose documents have that root element; null for none.
+const describe::ClassDescription* FirstDocumentClass(std::u16string_view root);
 
 /// The classes that the factory reads from documents, in the order of its operations.
 const std::vector<const describe::ClassDescription*>& DocumentClasses();

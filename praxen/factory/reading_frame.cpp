@@ -4,11 +4,24 @@
 #include <string>
 
 #include "praxen/core/error.h"
+#include "praxen/core/thread_state.h"
 #include "praxen/xml/loss_recorder.h"
 
 namespace praxen::detail {
 
 namespace {
+
+// Some more than objects take.
+constexpr size_t kObjectBytesPerCharacter = 3;
+
+// Faults in the use of memory are found only where each object has its own.
+#ifdef __SANITIZE_ADDRESS__
+constexpr bool kUsesRegions = false;
+#elif defined(__has_feature)
+constexpr bool kUsesRegions = !__has_feature(address_sanitizer);
+#else
+constexpr bool kUsesRegions = true;
+#endif
 
 XmlParseError AtRoot(const XmlNode& root, std::u16string_view what) {
   return MakeXmlError(u"The element \"" + std::u16string(root.nodeName()) + u"\" is not " +
@@ -22,6 +35,16 @@ bool IsInNamespace(const XmlNode& root) {
 }
 
 }  // namespace
+
+DocumentInReading::DocumentInReading(size_t characters)
+    : region_(kObjectBytesPerCharacter * characters) {
+  if (kUsesRegions) ThreadState::Current().region = &region_;
+}
+
+DocumentInReading::~DocumentInReading() {
+  ThreadState::Current().region = nullptr;
+  values_.Clear();
+}
 
 LoadedDocument::LoadedDocument(const Text& XMLStr) : text_(XMLStr) {
   if (document_->LoadXML(text_)) return;

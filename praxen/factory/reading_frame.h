@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "praxen/core/losses.h"
+#include "praxen/core/region.h"
 #include "praxen/core/text.h"
 #include "praxen/describe/document_values.h"
 #include "praxen/describe/object.h"
@@ -26,16 +27,18 @@ std::function<XmlSchemaSource()> FindSchema();
 /// `UnusableSchema` when it cannot be read.
 bool IsShippedSchemaUsed();
 
-/// While a document is read: what its values have in common is given up as this ends.
-class DocumentValuesInUse {
+/// While a document of so many characters is read: its objects lie in one region, and what its
+/// values have in common is given up as this ends.
+class DocumentInReading {
  public:
-  DocumentValuesInUse() = default;
-  DocumentValuesInUse(const DocumentValuesInUse&) = delete;
-  DocumentValuesInUse& operator=(const DocumentValuesInUse&) = delete;
-  ~DocumentValuesInUse() { values_.Clear(); }
+  explicit DocumentInReading(size_t characters);
+  DocumentInReading(const DocumentInReading&) = delete;
+  DocumentInReading& operator=(const DocumentInReading&) = delete;
+  ~DocumentInReading();
 
  private:
   DocumentValues& values_ = DocumentValues::Instance();
+  Region region_;
 };
 
 /// A document that is being read. What it has loaded is given up when it ends; nothing refers to
@@ -61,7 +64,7 @@ class LoadedDocument {
  private:
   // The nodes refer to its characters.
   const Text text_;
-  const DocumentValuesInUse values_;
+  const DocumentInReading inReading_{text_.size()};
   const ReaderDocument document_;
 };
 

@@ -11,6 +11,9 @@ namespace praxen::detail {
 inline constexpr std::u16string_view kEscapedInText = u"&<>";
 inline constexpr std::u16string_view kEscapedInValues = u"&<>\"'";
 
+/// What is escaped in a text that becomes markup, which is read once more.
+inline constexpr std::u16string_view kEscapedInMarkup = u"&<>\r";
+
 /// The reference to a character that markup gives a meaning, or that a parser would change; empty
 /// for any other.
 constexpr std::u16string_view XmlReference(char16_t character) {

@@ -30,6 +30,8 @@ class XmlScanner {
   void ReadEpilog();
 
   const char16_t* place() const { return next_; }
+  /// Back to a place where the scanner was.
+  void MoveTo(const char16_t* place) { next_ = place; }
 
   void SkipBlanks() {
     while (IsBlank(*next_)) ++next_;

@@ -74,7 +74,7 @@ std::u16string XmlTree::Markup(uint32_t node) const {
   const XmlRecord& found = record(node);
   switch (static_cast<XmlNodeKind>(found.kind)) {
     case XmlNodeKind::Text:
-      return EscapeXml(text(node), u"&<>\r");
+      return EscapeXml(text(node), kEscapedInMarkup);
     case XmlNodeKind::Comment:
       return std::u16string(u"<!--").append(text(node)).append(u"-->");
     case XmlNodeKind::Instruction: {
