@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <string_view>
 
-#include "praxen/factory/direct_reading.h"
 #include "tests/support/sound_documents.h"
 
 namespace praxen::detail::bench {
@@ -104,9 +103,7 @@ std::vector<Goal> GrowthGoals(const std::vector<Result>& growth) {
 std::vector<Goal> ShareGoals() {
   constexpr double kPercent = 100;
   const std::vector<SoundDocument> documents = SoundDocuments();
-  const auto direct = std::ranges::count_if(documents, [](const SoundDocument& document) {
-    return static_cast<bool>(ReadDirectly(document.text));
-  });
+  const auto direct = std::ranges::count_if(documents, &IsReadDirectly);
   return {{"documents of the tests that are read directly, in per cent",
            kPercent * static_cast<double>(direct) / static_cast<double>(documents.size()),
            Goal::Bound::AtLeast, 95}};

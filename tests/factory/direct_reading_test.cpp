@@ -18,7 +18,7 @@ TEST(DirectReading, TakesTheOrdinaryDocument) {
   std::string others;
   size_t taken = 0;
   for (const SoundDocument& document : documents) {
-    if (ReadDirectly(document.text)) {
+    if (IsReadDirectly(document)) {
       ++taken;
     } else {
       others += "  " + document.name + "\n";

@@ -5,12 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "praxen/core/text.h"
+#include "praxen/describe/description.h"
 
 namespace praxen::detail {
 
 struct SoundDocument {
   std::string name;
+  const ClassDescription* description;
   Text text;
 };
 
@@ -18,6 +19,9 @@ struct SoundDocument {
 /// is required, each with CR LF, with LF and without line breaks, and the samples of the command
 /// line. Numbers have the locale's decimal separator.
 std::vector<SoundDocument> SoundDocuments();
+
+/// Whether the direct way reads a document of its class and does not give up.
+bool IsReadDirectly(const SoundDocument& document);
 
 }  // namespace praxen::detail
 
