@@ -50,7 +50,6 @@ INSTANTIATE_TEST_SUITE_P(
     Table, PropertyConversion,
     testing::Values(
         Conversion{"Variable", u"name", Variant(u"L\u00E4nge"), u"L\u00E4nge"},
-        Conversion{"Variable", u"NAME", Variant(42), u"42"},
         Conversion{"Variable", u"Name", Variant(true), u"True"},
         Conversion{"Variable", u"Name", Variant(), u""},
         Conversion{"Variable", u"Name", OfType(VT_NULL), nullptr, DISP_E_TYPEMISMATCH},
@@ -59,15 +58,12 @@ INSTANTIATE_TEST_SUITE_P(
         Conversion{"Variable", u"Name", Reference(VT_BSTR, nullptr), nullptr, DISP_E_TYPEMISMATCH},
         Conversion{"Variable", u"Name", Reference(VT_VARIANT, nullptr), nullptr,
                    DISP_E_TYPEMISMATCH},
-        Conversion{"GraphNode", u"X", Variant(u"2.5"), u"2.5"},
         Conversion{"GraphNode", u"X", Variant(u"2.5m"), nullptr, DISP_E_TYPEMISMATCH},
         Conversion{"ErrorMsg", u"ErrorNo", Variant(u" 12 "), u"12"},
-        Conversion{"ErrorMsg", u"ErrorNo", Variant(2.5), u"2"},
         Conversion{"ErrorMsg", u"ErrorNo", Variant(3e9), nullptr, DISP_E_OVERFLOW},
         Conversion{"Parameter", u"Direction", Variant(u"2"), u"2"},
         Conversion{"Parameter", u"Direction", Variant(u"pxOut"), nullptr, DISP_E_TYPEMISMATCH},
         Conversion{"FunctionBlock", u"AspectObject", Variant(0), u"False"},
-        Conversion{"FunctionBlock", u"AspectObject", Variant(u"false"), u"False"},
         Conversion{"FunctionBlock", u"AspectObject", Variant(u"no"), nullptr,
                    DISP_E_TYPEMISMATCH}));
 
