@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <optional>
+#include <map>
 #include <string>
-#include <vector>
+#include <utility>
 
 namespace praxen::detail {
 namespace {
@@ -23,45 +23,20 @@ TEST(DecimalSeparator, CanBeSubstituted) {
 
 #ifndef _WIN32
 
-// Sets the variables that choose the locale, and sets them back.
-class LocaleVariables {
- public:
-  LocaleVariables(const char* all, const char* numeric, const char* general) {
-    set("LC_ALL", all);
-    set("LC_NUMERIC", numeric);
-    set("LANG", general);
-  }
-  ~LocaleVariables() {
-    for (const auto& [name, value] : former_) put(name, value ? value->c_str() : nullptr);
-  }
-
- private:
-  struct Variable {
-    const char* name;
-    std::optional<std::string> value;
-  };
-
-  void set(const char* name, const char* value) {
-    const char* const former = std::getenv(name);
-    former_.push_back(
-        {name, former == nullptr ? std::nullopt : std::optional<std::string>(former)});
-    put(name, value);
-  }
-
-  static void put(const char* name, const char* value) {
-    if (value == nullptr) {
-      unsetenv(name);
-    } else {
-      setenv(name, value, 1);
-    }
-  }
-
-  std::vector<Variable> former_;
-};
-
+// With other values of the variables that choose the locale; null for none.
 std::u16string SeparatorWith(const char* all, const char* numeric, const char* general) {
-  const LocaleVariables variables(all, numeric, general);
-  return GetDecimalSeparator();
+  const std::pair<const char*, const char*> variables[] = {
+      {"LC_ALL", all}, {"LC_NUMERIC", numeric}, {"LANG", general}};
+  std::map<const char*, std::string> former;
+  for (const auto& [name, value] : variables) {
+    const char* const before = std::getenv(name);
+    former[name] = before == nullptr ? "" : before;
+    value == nullptr ? unsetenv(name) : setenv(name, value, 1);
+  }
+  const std::u16string separator = GetDecimalSeparator();
+  // An empty one is as good as none.
+  for (const auto& [name, value] : former) setenv(name, value.c_str(), 1);
+  return separator;
 }
 
 TEST(DecimalSeparator, IsThatOfTheCLocaleWithoutAnother) {
