@@ -96,7 +96,8 @@ class DirectReader::Cursor final : public detail::XmlCursor {
     TakeName();
     if (scanner_.FindAttribute()) throw XmlGivenUp();
     entered_.push_back({std::exchange(tag_, {}), !scanner_.EndStartTag()});
-    if (depth_ + entered_.size() > kMaxXmlDepth) throw XmlGivenUp();
+    // A text may stand one level below.
+    if (depth_ + entered_.size() >= kMaxXmlDepth) throw XmlGivenUp();
   }
 
   // Fewer are missing where they are read.

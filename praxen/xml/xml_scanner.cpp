@@ -185,7 +185,8 @@ std::u16string_view XmlScanner::AttributeValue() {
   } else {
     value = DecodedValue(begin, special);
   }
-  if (value.size() > kMaxXmlAttributeLength) throw XmlGivenUp();
+  // As it is written it may be longer, which is the other way's to tell.
+  if (static_cast<size_t>(next_ - begin) > kMaxXmlAttributeLength) throw XmlGivenUp();
   return value;
 }
 
