@@ -26,6 +26,11 @@ uint64_t Hash(std::u16string_view characters) {
   return (hash ^ hash >> 32) | uint64_t{1} << 63;
 }
 
+bool Holds(const Text& text, std::u16string_view characters) {
+  return text.size() == characters.size() &&
+         std::memcmp(text.data(), characters.data(), characters.size() * sizeof(char16_t)) == 0;
+}
+
 }  // namespace
 
 Text SharedTexts::Share(std::u16string_view characters) {
@@ -33,7 +38,7 @@ Text SharedTexts::Share(std::u16string_view characters) {
   const uint64_t hash = Hash(characters);
   Place& place = places_[hash % kPlaces];
   if (place.lastHash == 0) used_[usedCount_++] = static_cast<uint8_t>(hash % kPlaces);
-  if (place.hash == hash && place.text == characters) return place.text;
+  if (place.hash == hash && Holds(place.text, characters)) return place.text;
   Text text(characters);
   if (place.lastHash == hash) {
     place.hash = hash;

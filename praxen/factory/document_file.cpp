@@ -48,7 +48,14 @@ fs::path NameBeside(const fs::path& file) {
          (".praxen-" + std::to_string(random()) + "-" + std::to_string(random()) + ".new");
 }
 
+// A file that may not be written is not replaced either, although its folder would allow that.
+void RequireWritable(const fs::path& file) {
+  errno = 0;
+  if (!std::ofstream(file, std::ios::binary | std::ios::app)) Fail("cannot write", file, errno);
+}
+
 void Replace(const fs::path& file, std::string_view bytes, const fs::file_status& former) {
+  if (fs::exists(former)) RequireWritable(file);
   const fs::path written = NameBeside(file);
   try {
     // Who may not read what was there never reads what comes.

@@ -134,8 +134,8 @@ void XmlScanner::ReadEpilog() {
   if (next_ != end_) throw XmlGivenUp();
 }
 
-bool XmlScanner::SkipComment() {
-  if (*next_ != u'<' || !Takes(u"<!--")) return false;
+bool XmlScanner::TakeComment() {
+  if (!Takes(u"<!--")) return false;
   for (;;) {
     next_ = FindSpecial<XmlBreaks::Ordinary>(next_, end_, u'-', u'-', u'-');
     if (*next_ == u'-' && next_[1] == u'-') break;

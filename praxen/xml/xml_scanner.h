@@ -38,7 +38,7 @@ class XmlScanner {
   }
   bool isAtEndTag() const { return next_[0] == u'<' && next_[1] == u'/'; }
   /// Passes over a comment; false where there is none.
-  bool SkipComment();
+  bool SkipComment() { return next_[0] == u'<' && next_[1] == u'!' && TakeComment(); }
 
   /// The name of the start tag at the place.
   std::u16string_view PeekName() const;
@@ -75,6 +75,7 @@ class XmlScanner {
  private:
   static bool IsBlank(char16_t c) { return c == u' ' || c == u'\n' || c == u'\r' || c == u'\t'; }
 
+  bool TakeComment();
   bool Takes(std::u16string_view characters);
   void Expect(std::u16string_view characters) {
     if (!Takes(characters)) throw XmlGivenUp();

@@ -37,6 +37,10 @@ def save(path, document, encoding="utf-16"):
     if target.exists() and not target.is_file():
         target.write_bytes(data)
         return
+    if target.exists():
+        # What may not be written is not replaced either, although its folder would allow that.
+        with open(target, "ab"):
+            pass
     written = target.with_name(f".praxen-{secrets.token_hex(8)}.new")
     try:
         with open(written, "xb") as stream:
