@@ -10,25 +10,30 @@
 
 namespace praxen::detail {
 
-/// The characters of a written number; long enough for every 32-bit integer and every double.
+/// Room for every written number.
+inline constexpr size_t kLongestNumber = 48;
+
+/// Writes a number from a place on, and returns the end. In decimal, with "-" before a negative
+/// number.
+char16_t* WriteNumber(int32_t number, char16_t* to) noexcept;
+/// The same in the classic form: a leading blank before zero and positive numbers, "." as decimal
+/// point whatever the locale, no zero before it, and the shortest digits that read back to the same
+/// double. Raises `InvalidArgument` for infinities and not-a-number, which the format cannot carry.
+char16_t* WriteNumber(double number, char16_t* to);
+
+/// The characters of a written number.
 class NumberText {
  public:
-  /// In decimal, with "-" before a negative number.
-  explicit NumberText(int32_t number);
-  /// In the classic form: a leading blank before zero and positive numbers, "." as decimal point
-  /// whatever the locale, no zero before it, and the shortest digits that read back to the same
-  /// double. Raises `InvalidArgument` for infinities and not-a-number, which the format cannot
-  /// carry.
-  explicit NumberText(double number);
+  explicit NumberText(int32_t number) : end_(WriteNumber(number, characters_)) {}
+  explicit NumberText(double number) : end_(WriteNumber(number, characters_)) {}
 
-  operator std::u16string_view() const noexcept { return {characters_, length_}; }  // NOLINT
+  operator std::u16string_view() const noexcept {  // NOLINT
+    return {characters_, static_cast<size_t>(end_ - characters_)};
+  }
 
  private:
-  void Append(char16_t character) { characters_[length_++] = character; }
-  void Append(std::string_view characters);
-
-  char16_t characters_[48];
-  size_t length_ = 0;
+  char16_t characters_[kLongestNumber];
+  const char16_t* end_;
 };
 
 /// The decimal digits of a number.

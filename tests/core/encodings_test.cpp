@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <charconv>
 #include <clocale>
+#include <cmath>
+#include <iterator>
 #include <limits>
 #include <random>
 #include <sstream>
@@ -83,12 +86,36 @@ TEST(Numbers, AreWrittenInTheClassicForm) {
   EXPECT_EQ(Text(NumberText(std::numeric_limits<int32_t>::min())), u"-2147483648");
 }
 
-TEST(Numbers, ReadBackToTheSameDouble) {
+// The digits of a number behind a blank, without zeros at either end.
+std::string DigitsOf(const std::string& text) {
+  std::string digits = text.substr(1, text.find_first_of("eE") - 1);
+  std::erase(digits, '.');
+  digits.erase(0, digits.find_first_not_of('0'));
+  return digits.substr(0, digits.find_last_not_of('0') + 1);
+}
+
+// Those of the standard library.
+std::string ShortestDigits(double number) {
+  char text[32] = " ";
+  const auto format = std::chars_format::scientific;
+  char* const end = std::to_chars(text + 1, std::end(text), number, format).ptr;
+  return DigitsOf({std::begin(text), end});
+}
+
+TEST(Numbers, HaveTheShortestDigitsThatReadBack) {
   std::mt19937_64 random(7);
   for (int i = 0; i < 20000; ++i) {
-    const double number = std::bit_cast<double>(random());
-    if (!std::isfinite(number)) continue;
-    ASSERT_EQ(XMLTextToDouble(NumberText(number)), number);
+    // Any double, numbers of ordinary size, powers of two and few digits.
+    const int exponent = static_cast<int>(random() % 100) - 45;
+    for (const double number :
+         {std::abs(std::bit_cast<double>(random())),
+          std::ldexp(static_cast<double>(random() >> 11), exponent - 53), std::ldexp(1, exponent),
+          static_cast<double>(random() % 10000) / 1000}) {
+      if (!std::isfinite(number) || number == 0) continue;
+      const NumberText text(number);
+      ASSERT_EQ(XMLTextToDouble(text), number);
+      ASSERT_EQ(DigitsOf(ToUtf8(text)), ShortestDigits(number));
+    }
   }
 }
 
