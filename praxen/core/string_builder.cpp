@@ -40,9 +40,10 @@ void CStringBuilder::Capacity(int32_t bytes) {
   if (bytes <= 0) return;
   const int32_t capacity = RoundUp(bytes, growth_step_);
   const size_t characters = static_cast<size_t>(capacity) / sizeof(char16_t);
-  if (characters > storage_.capacity()) storage_.Reserve(characters, length_);
+  const size_t kept = length();
+  if (characters > storage_.capacity()) storage_.Reserve(characters, kept);
   capacity_ = capacity;
-  CutTo(std::min(length_, characters));
+  CutTo(std::min(kept, characters));
 }
 
 void CStringBuilder::Chars(int32_t index, std::u16string_view character) {
@@ -65,12 +66,12 @@ Text CStringBuilder::Chars(int32_t index) const {
 
 void CStringBuilder::Length(int32_t characters) {
   if (characters < 0) return;
-  const size_t length = static_cast<size_t>(characters);
-  if (length > length_) {
-    const size_t added = length - length_;
+  const size_t wanted = static_cast<size_t>(characters);
+  if (wanted > length()) {
+    const size_t added = wanted - length();
     std::fill_n(Extend(added), added, u'\0');
   }
-  CutTo(length);
+  CutTo(wanted);
 }
 
 int32_t CStringBuilder::EnsureCapacity(int32_t bytes) {
@@ -83,9 +84,9 @@ CStringBuilder& CStringBuilder::Insert(int32_t index, std::u16string_view text) 
     throw BufferRangeError(u"CStringBuilder.Insert"_text, u"Argument(s) out of range."_text);
   }
   if (text.empty()) return *this;
-  if (text.size() > kMostCharacters - length_) throw Overflow();
+  if (text.size() > kMostCharacters - length()) throw Overflow();
   const Text kept(text);  // The text may be a part of the buffer that is about to move.
-  const size_t tail = length_ - static_cast<size_t>(index);
+  const size_t tail = length() - static_cast<size_t>(index);
   Extend(kept.size());
   char16_t* const place = storage_.data() + index;
   std::memmove(place + kept.size(), place, tail * sizeof(char16_t));
@@ -100,38 +101,45 @@ CStringBuilder& CStringBuilder::Remove(int32_t start, int32_t count) {
   Own();
   char16_t* const place = storage_.data() + start;
   const size_t removed = static_cast<size_t>(count);
-  const size_t tail = length_ - static_cast<size_t>(start) - removed;
+  const size_t tail = length() - static_cast<size_t>(start) - removed;
   std::memmove(place, place + removed, tail * sizeof(char16_t));
-  CutTo(length_ - removed);
+  CutTo(length() - removed);
   return *this;
 }
 
 void CStringBuilder::Own() {
-  if (storage_.IsShared()) storage_.Reserve(storage_.capacity(), length_);
+  if (storage_.IsShared()) Store(storage_.capacity());
+}
+
+void CStringBuilder::Store(size_t characters) {
+  const size_t kept = length();
+  storage_.Reserve(characters, kept);
+  CutTo(kept);
 }
 
 void CStringBuilder::MakeRoom(size_t count) {
-  if (count > kMostCharacters - length_) throw Overflow();
-  const size_t length = length_ + count;
-  const int64_t bytes = static_cast<int64_t>(length * sizeof(char16_t));
+  if (count > kMostCharacters - length()) throw Overflow();
+  const size_t wanted = length() + count;
+  const int64_t bytes = static_cast<int64_t>(wanted * sizeof(char16_t));
   const int32_t capacity = bytes > capacity_ ? RoundUp(bytes, growth_step_) : capacity_;
-  if (length > storage_.capacity()) {
-    storage_.Reserve(std::max(length, std::min(2 * storage_.capacity(), kMostCharacters)), length_);
+  if (wanted > storage_.capacity()) {
+    Store(std::max(wanted, std::min(2 * storage_.capacity(), kMostCharacters)));
   } else {
     Own();
   }
   capacity_ = capacity;
-  room_ = std::min(storage_.capacity(), static_cast<size_t>(capacity) / sizeof(char16_t));
+  room_end_ = storage_.data() +
+              std::min(storage_.capacity(), static_cast<size_t>(capacity) / sizeof(char16_t));
 }
 
 Text CStringBuilder::ToString() {
-  const bool isMuchShorter = length_ < storage_.capacity() / kSmallestSharedPart;
+  const bool isMuchShorter = length() < storage_.capacity() / kSmallestSharedPart;
   const bool isSecond = std::exchange(was_much_shorter_, isMuchShorter);
-  if (length_ < kShortestShared || (isMuchShorter && !isSecond)) return Text(view());
+  if (length() < kShortestShared || (isMuchShorter && !isSecond)) return Text(view());
   // A text does not keep more storage than it fills.
-  if (!storage_.IsShared() && length_ < storage_.capacity() / 2) storage_.Reserve(length_, length_);
-  room_ = length_;
-  return storage_.Share(length_);
+  if (!storage_.IsShared() && length() < storage_.capacity() / 2) Store(length());
+  room_end_ = end_;
+  return storage_.Share(length());
 }
 
 }  // namespace praxen::detail

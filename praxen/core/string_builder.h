@@ -43,7 +43,7 @@ class CStringBuilder {
   /// The length in characters; what lies beyond the former length becomes NUL. A negative value is
   /// ignored.
   void Length(int32_t characters);
-  int32_t Length() const noexcept { return static_cast<int32_t>(length_); }
+  int32_t Length() const noexcept { return static_cast<int32_t>(length()); }
 
   CStringBuilder& Append(std::u16string_view text) {
     if (text.empty()) return *this;
@@ -54,17 +54,23 @@ class CStringBuilder {
   /// Appends `count` characters, of any content, and returns the first.
   char16_t* Extend(size_t count) {
     char16_t* const end = Reserve(count);
-    length_ += count;
+    end_ = end + count;
     return end;
   }
   /// Makes room for `count` characters after the text and returns its start.
   char16_t* Reserve(size_t count) {
-    if (count > room_ - length_) [[unlikely]]
+    if (count > static_cast<size_t>(room_end_ - end_)) [[unlikely]]
       MakeRoom(count);
-    return storage_.data() + length_;
+    return end_;
   }
-  /// Takes what was filled in up to `end`, within the room just reserved, into the text.
-  void EndAt(const char16_t* end) noexcept { length_ = static_cast<size_t>(end - storage_.data()); }
+  /// Takes what was filled in up to `end`, within the room, into the text.
+  void EndAt(char16_t* end) noexcept { end_ = end; }
+  /// What may be filled in after the text before more room has to be reserved.
+  struct Room {
+    char16_t* start;
+    char16_t* end;
+  };
+  Room room() const noexcept { return {end_, room_end_}; }
 
   /// Makes room for the given bytes and returns the capacity.
   int32_t EnsureCapacity(int32_t bytes);
@@ -76,18 +82,21 @@ class CStringBuilder {
   /// The text so far. A long one stands in the buffer's storage, which the buffer leaves to it when
   /// it changes while the text is held.
   Text ToString();
-  std::u16string_view view() const noexcept { return {storage_.data(), length_}; }
+  std::u16string_view view() const noexcept { return {storage_.data(), length()}; }
 
  private:
   void MakeRoom(size_t count);
   void Own();
-  void CutTo(size_t length) noexcept { length_ = room_ = length; }
+  /// Makes the storage one for so many characters, which is not shared.
+  void Store(size_t characters);
+  size_t length() const noexcept { return static_cast<size_t>(end_ - storage_.data()); }
+  void CutTo(size_t length) noexcept { end_ = room_end_ = storage_.data() + length; }
 
   TextBuffer storage_;
-  size_t length_ = 0;  // in characters, as the room
-  /// How far the text may grow before the storage or the capacity has to; no further than the
-  /// length while a text may stand in the storage.
-  size_t room_ = 0;
+  char16_t* end_ = storage_.data();
+  /// How far the text may grow before the storage or the capacity has to; no further than its end
+  /// while a text may stand in the storage.
+  char16_t* room_end_ = end_;
   /// Whether the text handed out last filled little of the storage.
   bool was_much_shorter_ = false;
   int32_t capacity_ = 0;

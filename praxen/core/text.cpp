@@ -10,6 +10,7 @@
 #include <ostream>
 
 #include "praxen/core/error.h"
+#include "praxen/core/large_memory.h"
 #include "praxen/core/region.h"
 #include "praxen/core/thread_state.h"
 
@@ -50,6 +51,7 @@ char16_t* Text::Allocate(size_t length) {
   if (length > kLongestText) throw Overflow();
   void* const memory = std::malloc(BlockSize(length));
   if (memory == nullptr) throw std::bad_alloc();
+  PreferLargePages(memory, BlockSize(length));
   return MakeBlock(memory, 1, length);
 }
 

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <utility>
 
+#include "praxen/core/large_memory.h"
+
 namespace praxen::detail {
 
 void TextBuffer::Reserve(size_t characters, size_t kept) {
@@ -18,6 +20,7 @@ void TextBuffer::Reserve(size_t characters, size_t kept) {
   } else {
     void* const grown = std::realloc(&block_.block(), Text::BlockSize(characters));
     if (grown == nullptr) throw std::bad_alloc();
+    if (characters > capacity_) PreferLargePages(grown, Text::BlockSize(characters));
     block_.characters_ = reinterpret_cast<char16_t*>(static_cast<TextBlock*>(grown) + 1);
   }
   capacity_ = characters;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "praxen/describe/description.h"
+#include "praxen/describe/element_markup.h"
 #include "praxen/describe/reflection.h"
 #include "praxen/describe/xml_writing.h"
 #include "praxen/xml/xml_name.h"
@@ -53,6 +54,9 @@ void CompleteChild(Child& child, Object& created) {
   }
   if (child.elementName != nullptr) child.name = child.elementName();
   if (!child.name.empty()) child.xmlName = InternXmlName(child.name);
+  if (child.kind == ChildKind::Text || child.kind == ChildKind::Content) {
+    child.markup = std::make_shared<const TextMarkup>(child);
+  }
 }
 
 }  // namespace
@@ -70,7 +74,11 @@ Layout CompleteLayout(Layout layout, std::u16string element, Object& created) {
     }
   }
   for (Child& child : layout.children) CompleteChild(child, created);
-  for (Choice& choice : layout.elements) choice.xmlName = InternXmlName(choice.elementName());
+  for (Choice& choice : layout.elements) {
+    choice.xmlName = InternXmlName(choice.elementName());
+    choice.description = &choice.object();
+  }
+  layout.markup = std::make_shared<const ElementMarkup>(layout, created);
   return layout;
 }
 

@@ -5,6 +5,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,6 +27,8 @@ using XmlName = const std::u16string*;
 namespace praxen::describe {
 
 struct Member;
+struct ElementMarkup;
+struct TextMarkup;
 
 /// When an attribute is written. All are read.
 enum class Rule : uint8_t {
@@ -132,6 +135,8 @@ struct Child {
   XmlName xmlName = nullptr;
   /// The published member of the property; null when it is not published.
   const Member* member = nullptr;
+  /// What writing copies around a text.
+  std::shared_ptr<const TextMarkup> markup = {};
 };
 
 /// One of the classes that the elements of a list may have.
@@ -142,8 +147,11 @@ struct Choice {
   /// Whether an element of a kind interface says that it is of this class; null in other lists.
   bool (*isKind)(const Object& element) = nullptr;
 
-  /// The name of its element; filled in before the layout is used.
+  // Filled in before the layout is used.
+
+  /// The name of its element.
   XmlName xmlName = nullptr;
+  const ClassDescription* description = nullptr;
 };
 
 /// When a list writes an element around its elements.
@@ -166,6 +174,8 @@ struct Layout {
   /// object: a bit for each attribute, in their order.
   uint64_t givenAttributes = 0;
   uint64_t emptiedAttributes = 0;
+  /// What writing copies.
+  std::shared_ptr<const ElementMarkup> markup = {};
 };
 
 /// The value that lies so many bytes after the start of an object.

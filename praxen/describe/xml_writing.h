@@ -12,9 +12,6 @@ namespace praxen::describe {
 /// Writes the element of an object whose class has that layout.
 void WriteElement(Object& object, const Layout& layout, XMLStringWriter& writer);
 
-/// The root or plain start tag of an object, as its `IsRoot` tells; clears `IsRoot`.
-void WriteStartTag(Object& object, std::u16string_view element, XMLStringWriter& writer);
-
 /// The value of an attribute as it is written.
 Text AttributeText(const Attribute& attribute, const void* value);
 

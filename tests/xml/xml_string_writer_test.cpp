@@ -7,6 +7,7 @@
 
 #include "praxen/core/counters.h"
 #include "praxen/core/error.h"
+#include "praxen/xml/xml_escape.h"
 #include "praxen/xml/xml_limits.h"
 
 namespace praxen::detail {
@@ -78,6 +79,22 @@ TEST(XMLStringWriter, EscapesValues) {
               u" n='" + test.attribute + u"'");
     EXPECT_EQ(Written([&](XMLStringWriter& w) { w.WriteElementString(u"e", test.value); }),
               u"<e>" + test.text + u"</e>\r\n");
+  }
+}
+
+// Values are copied and looked through in blocks.
+TEST(XMLStringWriter, EscapesAtAnyPlaceOfAnyLength) {
+  for (size_t size = 1; size <= 40; ++size) {
+    for (size_t place = 0; place < size; ++place) {
+      const std::u16string before(place, u'='), after(size - place - 1, u'%');
+      for (const char16_t special : kEscapedInValues) {
+        const std::u16string escaped = before + std::u16string(XmlReference(special)) + after;
+        ASSERT_EQ(Written([&](XMLStringWriter& w) {
+                    w.WriteAttributeString(u"n", before + special + after);
+                  }),
+                  u" n='" + escaped + u"'");
+      }
+    }
   }
 }
 

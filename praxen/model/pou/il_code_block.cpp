@@ -21,6 +21,16 @@ constexpr RowText kInstruction[] = {{u"Label", &ILRow::Label},
                                     {u"Operand", &ILRow::Operand},
                                     {u"Description", &ILRow::Description}};
 
+struct RowTags {
+  RowTags() {
+    for (const RowText& row : kInstruction) instruction.emplace_back(std::u16string(row.element));
+  }
+
+  XmlTags comment{std::u16string(kComment.element)};
+  /// In the order of `kInstruction`.
+  std::vector<XmlTags> instruction;
+};
+
 }  // namespace
 
 Layout ILRow::layout() {
@@ -32,10 +42,11 @@ Layout ILRow::layout() {
 }
 
 void ILRow::WriteTexts(XMLStringWriter& writer) {
-  if (IsRowComment) return writer.WriteElementString(kComment.element, this->*kComment.text);
-  for (const RowText& row : kInstruction) {
-    const Text& text = this->*row.text;
-    if (!text.empty()) writer.WriteElementString(row.element, text);
+  static const RowTags tags;
+  if (IsRowComment) return writer.WriteElementString(tags.comment, this->*kComment.text);
+  for (size_t i = 0; i < tags.instruction.size(); ++i) {
+    const Text& text = this->*kInstruction[i].text;
+    if (!text.empty()) writer.WriteElementString(tags.instruction[i], text);
   }
 }
 
