@@ -1,7 +1,9 @@
 // Project constants: the conflict rule of Add1 and the tree that they are written as.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
+#include <set>
 
 #include "praxen/core/text_functions.h"
 #include "praxen/praxen.h"
@@ -152,14 +154,43 @@ TEST(ProjectConstants, KeepTheirPlacesOnALargeLevel) {
   EXPECT_EQ(Markup(*list), "<ProjectConstants>" + Group("G", members) + "</ProjectConstants>");
 }
 
+// Names in order are written without a tree. A second constant of the first name changes nothing
+// but the order.
+TEST(ProjectConstants, AreWrittenAlikeInOrderAndNot) {
+  std::mt19937 random(5);
+  for (int round = 0; round < 3000; ++round) {
+    std::set<std::vector<std::u16string>> names;
+    for (uint32_t count = random() % 8 + 1; count > 0; --count) {
+      std::vector<std::u16string> segments(random() % 3 + 1);
+      for (std::u16string& segment : segments) {
+        segment = std::u16string(u"A-B B").substr(random() % 3, random() % 20 == 0 ? 0 : 2);
+      }
+      names.insert(segments);
+    }
+    // A second one of such a name is another constant.
+    if (std::ranges::count(*names.begin(), u"") > 0) continue;
+    const auto list = New<ProjectConstants>();
+    for (const std::vector<std::u16string>& segments : names) {
+      std::u16string name;
+      for (const std::u16string& segment : segments) name += (name.empty() ? u"" : u".") + segment;
+      list->Add(ObjectFactory::NewProjectConstant(name, u"dint", Text(name)));
+    }
+    const std::string inOrder = Markup(*list);
+    list->Add(ObjectFactory::NewProjectConstant(list->Item(1)->GetName(), u"real", u"2"));
+    ASSERT_EQ(Markup(*list), inOrder);
+  }
+}
+
 // Constants of short names in a group of a long one: as many as can be written can be read.
 TEST(ProjectConstants, LimitTheirNamesTogether) {
   const std::string group(100'000, 'g');
-  for (const size_t count : {size_t{20}, size_t{21}}) {
+  for (const size_t test : {0, 1, 2, 3}) {
+    const size_t count = 20 + test % 2;
+    const bool isInOrder = test >= 2;
     const auto list = New<ProjectConstants>();
     std::string members;
     for (size_t i = 0; i < count; ++i) {
-      const std::string name = "c" + std::to_string(i);
+      const std::string name = "c" + std::to_string(isInOrder ? 10 + i : i);
       members += Leaf(name, "1");
       list->Add(ObjectFactory::NewProjectConstant(FromUtf8(group + "." + name), u"dint", u"1"));
     }

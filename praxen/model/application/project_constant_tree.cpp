@@ -5,6 +5,7 @@
 #include "praxen/core/seeded_hash.h"
 #include "praxen/core/text_functions.h"
 #include "praxen/describe/xml_reading.h"
+#include "praxen/model/application/ordered_constants.h"
 #include "praxen/xml/loss_recorder.h"
 #include "praxen/xml/xml_string_writer.h"
 
@@ -110,6 +111,7 @@ void intProjectConstants::AddRecursive(intProjectConstant& level, std::u16string
 
 void intProjectConstants::Write(XMLStringWriter& writer, const ProjectConstants& list) {
   if (list.Count() == 0) return;
+  if (AreOrdered(list)) return WriteOrdered(list, writer, allowance_);
   intProjectConstant& root = NewLevel(nullptr);
   for (const ProjectConstant& constant : list) {
     AddRecursive(root, constant.Name.get(), constant.PCType, constant.Value);
@@ -117,7 +119,7 @@ void intProjectConstants::Write(XMLStringWriter& writer, const ProjectConstants&
   const intProjectConstant* entry = &root;
   size_t groups = 0;  // The length of their names, with dots.
   while (entry != nullptr) {
-    CountElement(entry->Name);
+    allowance_.CountElement(entry->Name);
     writer.WriteStartElement(kEntry);
     writer.WriteAttributeString(u"Name", entry->Name);
     if (entry->SubLevel != nullptr) {
@@ -126,7 +128,7 @@ void intProjectConstants::Write(XMLStringWriter& writer, const ProjectConstants&
       entry = entry->SubLevel;
       continue;
     }
-    if (!AllowsName(groups + entry->Name.size())) throw Overflow();
+    if (!allowance_.Allows(groups + entry->Name.size())) throw Overflow();
     writer.WriteElementString(u"Type", entry->Type);
     writer.WriteElementString(u"Value", entry->Value);
     writer.WriteEndElement(kEntry);
@@ -148,7 +150,7 @@ void intProjectConstants::ReadLevel(XmlCursor& cursor, ProjectConstants& list) {
   while (!cursor.name().empty()) {
     const size_t outer = groups_.size();
     groups_ += cursor.ReadAttribute(u"Name");
-    CountElement(std::u16string_view(groups_).substr(outer));
+    allowance_.CountElement(std::u16string_view(groups_).substr(outer));
     const XmlNode entry = cursor.node();
     if (entry.recorder() != nullptr) RecordEntry(entry, groups_);
     cursor.Enter();
@@ -159,7 +161,7 @@ void intProjectConstants::ReadLevel(XmlCursor& cursor, ProjectConstants& list) {
       ReadLevel(cursor, list);
       cursor.Leave();
     } else {
-      if (!AllowsName(groups_.size())) throw Overflow().At(entry.place());
+      if (!allowance_.Allows(groups_.size())) throw Overflow().At(entry.place());
       ReadConstant(cursor, list);
     }
     cursor.Leave();
@@ -189,15 +191,6 @@ void intProjectConstants::RecordEntry(const XmlNode& node, const Text& name) {
         u"'" + name + u"' is the name or the group of another constant, which is written");
   }
   recorded_.Add(name);
-}
-
-void intProjectConstants::CountElement(std::u16string_view name) {
-  allowedCharacters_ += kNameCharactersOfElement + kNameCharactersPerCharacter * name.size();
-}
-
-bool intProjectConstants::AllowsName(size_t size) {
-  nameCharacters_ += size;
-  return nameCharacters_ <= allowedCharacters_;
 }
 
 void intProjectConstants::ReadConstant(XmlCursor& cursor, ProjectConstants& list) {

@@ -11,6 +11,7 @@
 
 #include "praxen/core/counters.h"
 #include "praxen/model/application/dotted_name_index.h"
+#include "praxen/model/application/name_allowance.h"
 #include "praxen/model/application/project_constant.h"
 #include "praxen/xml/xml_cursor.h"
 
@@ -82,15 +83,8 @@ class intProjectConstants {
   /// not change meanwhile.
   void Write(XMLStringWriter& writer, const ProjectConstants& list);
   /// Appends the constants of the elements from the cursor on, depth first. Raises `Overflow` when,
-  /// up to any of them, their dotted names have together more characters than is allowed for so
-  /// many elements: short names in groups of long names would take any multiple of the document.
+  /// up to any of them, their dotted names have together more characters than `NameAllowance` allows.
   void Read(XmlCursor& cursor, ProjectConstants& list);
-
-  /// The characters that dotted names may have together: so many, so many for each constant and
-  /// group, and so many for each character of the element's own name.
-  static constexpr size_t kNameCharacters = 1'000'000;
-  static constexpr size_t kNameCharactersOfElement = 1'000;
-  static constexpr size_t kNameCharactersPerCharacter = 10;
 
  private:
   intProjectConstant& NewLevel(intProjectConstant* group);
@@ -102,17 +96,12 @@ class intProjectConstants {
   /// The constant whose name is `groups_`.
   void ReadConstant(XmlCursor& cursor, ProjectConstants& list);
 
-  void CountElement(std::u16string_view name);
-  /// Adds a dotted name of so many characters; false when that is more than is allowed.
-  bool AllowsName(size_t size);
-
   std::deque<intProjectConstant> entries_;
   /// The names of the constants read, while their reading is recorded.
   DottedNameIndex recorded_;
   /// The names of the groups around what is read, each with its dot, and that of what is read.
   std::u16string groups_;
-  size_t nameCharacters_ = 0;
-  size_t allowedCharacters_ = kNameCharacters;
+  NameAllowance allowance_;
 };
 
 }  // namespace praxen::detail
