@@ -74,5 +74,23 @@ TEST_P(BothWaysOfReading, BuildTheSameOfChangedDocuments) {
   EXPECT_GT(givenUp_, 100u);
 }
 
+std::u16string Repeat(std::u16string_view text, size_t count) {
+  std::u16string repeated;
+  for (size_t i = 0; i < count; ++i) repeated += text;
+  return repeated;
+}
+
+TEST_P(BothWaysOfReading, EndAtTheSameLimits) {
+  const std::u16string start = u"<ProjectConstants xmlns='PraxenSchema3_0'>";
+  for (const size_t groups : {498, 499}) {
+    Compare(start + Repeat(u"<ProjectConstant Name='a'><ProjectConstants>", groups) +
+            u"<ProjectConstant Name='b'><Type>t</Type><Value>v</Value></ProjectConstant>" +
+            Repeat(u"</ProjectConstants></ProjectConstant>", groups) + u"</ProjectConstants>");
+  }
+  // Few characters of much markup.
+  Compare(u"<Variable xmlns='PraxenSchema3_0' Type='t' Attribute='' Name='" +
+          Repeat(u"&#" + std::u16string(1'000, u'0') + u"65;", 61'000) + u"'/>");
+}
+
 }  // namespace
 }  // namespace praxen::detail
