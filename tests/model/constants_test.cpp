@@ -115,6 +115,8 @@ TEST(ProjectConstants, AreWrittenAsATree) {
       {{u"K"}, Leaf("K", "1")},
       {{u"A.B", u"C", u"A.D"}, Group("A", Leaf("B", "1") + Leaf("D", "3")) + Leaf("C", "2")},
       {{u"M.S.X", u"M.S.Y"}, Group("M", Group("S", Leaf("X", "1") + Leaf("Y", "2")))},
+      {{u"A.B", u"C.D", u"E"},
+       Group("A", Leaf("B", "1")) + Group("C", Leaf("D", "2")) + Leaf("E", "3")},
       {{u"A", u"A"}, Leaf("A", "1")},
       {{u"A", u"A.B"}, Group("A", Leaf("B", "2"))},
       {{u"A.B", u"A"}, Group("A", Leaf("B", "1"))},
