@@ -578,7 +578,7 @@ TEST(XmlNode, AbsentNodesLeadToAbsentNodes) {
 
 TEST(XmlNode, FindsAttributesInAnyOrder) {
   XmlDocument document(TestSchema);
-  ASSERT_TRUE(document.LoadXML(u"<List xmlns='urn:test' Name='x' Hidden=''/>"));
+  ASSERT_TRUE(document.LoadXML(u"<List xmlns='urn:test' Name='x' Hidden=''><a b=''/></List>"));
   const XmlNode root = document.documentElement();
   for (const char16_t* const name : {u"Hidden", u"Name", u"Scope", u"Scope", u"xmlns"}) {
     const XmlAttribute* const attribute = root.attribute(InternXmlName(name));
@@ -587,6 +587,8 @@ TEST(XmlNode, FindsAttributesInAnyOrder) {
     EXPECT_EQ(attribute, root.attribute(std::u16string_view(name)));
   }
   EXPECT_EQ(root.attribute(u"name"), nullptr);
+  const XmlNode only = root.firstChild();
+  for (int i = 0; i < 3; ++i) EXPECT_NE(only.attribute(u"b"), nullptr) << i;
   EXPECT_EQ(root.name(), InternXmlName(u"List"));
 }
 
