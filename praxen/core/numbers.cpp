@@ -4,11 +4,13 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "praxen/core/ascii.h"
@@ -59,6 +61,24 @@ std::optional<PlainNumber> ReadPlain(std::u16string_view text) {
   const bool isSigned = number.negative && number.digits == 0;
   if (count == 0 || count > kMostDigits || isSigned) return std::nullopt;
   return number;
+}
+
+// The nearest double of a number in the same form with more digits; none for one that is not, and
+// for a zero.
+std::optional<double> ReadLong(std::u16string_view text) {
+  constexpr size_t kMostCharacters = 40;
+  if (text.starts_with(u' ')) text.remove_prefix(1);
+  if (text.size() > kMostCharacters) return std::nullopt;
+  char narrow[kMostCharacters];
+  for (size_t i = 0; i < text.size(); ++i) {
+    const bool isPart = IsDigitAscii(text[i]) || text[i] == u'.' || (text[i] == u'-' && i == 0);
+    if (!isPart) return std::nullopt;
+    narrow[i] = static_cast<char>(text[i]);
+  }
+  double value = 0;
+  const auto [end, error] = std::from_chars(narrow, narrow + text.size(), value);
+  if (error != std::errc() || end != narrow + text.size() || value == 0) return std::nullopt;
+  return value;
 }
 
 // Converts a text that has to be a number.
@@ -252,6 +272,7 @@ double XMLNumbers::ToDouble(std::u16string_view text) {
     const double magnitude = static_cast<double>(plain->digits) / kPowersOfTen[plain->decimals];
     return plain->negative ? -magnitude : magnitude;
   }
+  if (const std::optional<double> number = ReadLong(text)) return *number;
   return Parse<double>(text, ToReal<double>);
 }
 

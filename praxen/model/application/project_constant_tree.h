@@ -83,7 +83,8 @@ class intProjectConstants {
   /// not change meanwhile.
   void Write(XMLStringWriter& writer, const ProjectConstants& list);
   /// Appends the constants of the elements from the cursor on, depth first. Raises `Overflow` when,
-  /// up to any of them, their dotted names have together more characters than `NameAllowance` allows.
+  /// up to any of them, their dotted names have together more characters than `NameAllowance`
+  /// allows.
   void Read(XmlCursor& cursor, ProjectConstants& list);
 
  private:
