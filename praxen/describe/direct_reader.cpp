@@ -1,6 +1,7 @@
 // The pass over a document, with a stack of its own for open elements.
 #include "praxen/describe/direct_reader.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -35,9 +36,11 @@ size_t PlaceOf(const std::vector<Attribute>& all, std::u16string_view name) {
 /// What a class reads itself, out of the characters.
 class DirectReader::Cursor final : public detail::XmlCursor {
  public:
-  /// Inside so many elements, of which the innermost may have no content.
-  Cursor(XmlScanner& scanner, const char16_t* beforeBlanks, size_t depth, bool isEmpty)
+  /// Of a child inside so many elements, of which the innermost may have no content.
+  Cursor(XmlScanner& scanner, const Child& child, const char16_t* beforeBlanks, size_t depth,
+         bool isEmpty)
       : scanner_(scanner),
+        shapes_(child.shapes),
         beforeBlanks_(beforeBlanks),
         start_(scanner.place()),
         depth_(depth),
@@ -60,6 +63,8 @@ class DirectReader::Cursor final : public detail::XmlCursor {
 
   std::u16string_view ReadAttribute(std::u16string_view attribute) override {
     TakeName();
+    // A class may take an element of any name, but not every name may have the attribute.
+    if (!DeclaresAttribute(tag_, attribute)) throw XmlGivenUp();
     if (!scanner_.FindAttribute() || scanner_.TakeAttribute() != attribute) throw XmlGivenUp();
     return scanner_.AttributeValue();
   }
@@ -129,12 +134,19 @@ class DirectReader::Cursor final : public detail::XmlCursor {
     tag_ = Peek();
     scanner_.TakeName(tag_);
   }
+  bool DeclaresAttribute(std::u16string_view element, std::u16string_view attribute) const {
+    return std::ranges::any_of(shapes_, [&](const ElementShape& shape) {
+      return shape.name == element &&
+             std::ranges::find(shape.attributes, attribute) != shape.attributes.end();
+    });
+  }
   // An element of which an attribute was read is read itself before anything else.
   void RequireNoTag() const {
     if (!tag_.empty()) throw XmlGivenUp();
   }
 
   XmlScanner& scanner_;
+  const std::vector<ElementShape>& shapes_;
   const char16_t* const beforeBlanks_;
   const char16_t* const start_;
   const size_t depth_;
@@ -311,7 +323,7 @@ void DirectReader::ReadContent(Object& object, const Child& child, std::u16strin
 
 // Whether the class took what stands there.
 bool DirectReader::ReadWithCursor(Object& object, const Child& child, bool isEmpty) {
-  Cursor cursor(scanner_, beforeBlanks_, open_.size(), isEmpty);
+  Cursor cursor(scanner_, child, beforeBlanks_, open_.size(), isEmpty);
   child.readXML(object, cursor);
   return cursor.hasMoved();
 }

@@ -92,5 +92,13 @@ TEST_P(BothWaysOfReading, EndAtTheSameLimits) {
           Repeat(u"&#" + std::u16string(1'000, u'0') + u"65;", 61'000) + u"'/>");
 }
 
+// Project constants may be elements of any name, which the schema may know for something else.
+TEST_P(BothWaysOfReading, AgreeOnConstantsByOtherNames) {
+  for (const std::u16string name : {u"ProjectConstant", u"Other", u"Type", u"Variable"}) {
+    Compare(u"<ProjectConstants xmlns='PraxenSchema3_0'><" + name +
+            u" Name='a'><Type>t</Type><Value>v</Value></" + name + u"></ProjectConstants>");
+  }
+}
+
 }  // namespace
 }  // namespace praxen::detail
