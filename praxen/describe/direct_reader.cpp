@@ -14,6 +14,7 @@
 #include "praxen/xml/xml_cursor.h"
 #include "praxen/xml/xml_escape.h"
 #include "praxen/xml/xml_limits.h"
+#include "praxen/xml/xml_markup.h"
 
 namespace praxen::describe {
 
@@ -94,7 +95,10 @@ class DirectReader::Cursor final : public detail::XmlCursor {
     if (*scanner_.place() == u'<') return scanner_.Markup(depth_);
     // Blanks belong to the text that follows them.
     scanner_.MoveTo(beforeBlanks_);
-    return EscapeXml(scanner_.Content(), kEscapedInMarkup);
+    const std::u16string_view text = scanner_.Content();
+    // Blanks that are referred to are no diagram, either.
+    if (detail::IsXmlBlank(text)) throw XmlGivenUp();
+    return EscapeXml(text, kEscapedInMarkup);
   }
 
   void Enter() override {

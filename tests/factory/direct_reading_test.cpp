@@ -100,5 +100,12 @@ TEST_P(BothWaysOfReading, AgreeOnConstantsByOtherNames) {
   }
 }
 
+TEST_P(BothWaysOfReading, TakeNoBlanksForADiagram) {
+  for (const std::u16string content :
+       {u"&#10;", u" &#x20; ", u"&#10;a", u"<![CDATA[ ]]>", u"&#xA0;"}) {
+    Compare(u"<FDCodeBlock xmlns='PraxenSchema3_0' Name='f'>" + content + u"</FDCodeBlock>");
+  }
+}
+
 }  // namespace
 }  // namespace praxen::detail
