@@ -59,8 +59,10 @@ uint32_t ReadDigits(const char16_t*& next, uint32_t base) {
   }
 }
 
-// The names that markup uses, of which only so many are kept count of.
-class MarkupNames {
+}  // namespace
+
+// Far below what makes the parser's tables slow, and below what a document may have.
+class XmlScanner::Names {
  public:
   void Add(std::u16string_view name) {
     size_t place = name.size() * 31 + name.front() * 7 + name.back();
@@ -75,7 +77,6 @@ class MarkupNames {
   }
 
  private:
-  // Far below what makes the parser's tables slow.
   static constexpr size_t kMost = 150;
   static constexpr size_t kLongest = 1'000;
 
@@ -83,11 +84,11 @@ class MarkupNames {
   size_t count_ = 0;
 };
 
-}  // namespace
-
 XmlScanner::XmlScanner(const Text& text) : next_(text.data()), end_(text.data() + text.size()) {
   if (text.size() > kMaxXmlDocumentLength) throw XmlGivenUp();
 }
+
+XmlScanner::~XmlScanner() = default;
 
 bool XmlScanner::Takes(std::u16string_view characters) {
   const size_t size = characters.size();
@@ -332,18 +333,22 @@ void XmlScanner::TakeEndTag(std::u16string_view name) {
   if (*next_++ != u'>') throw XmlGivenUp();
 }
 
+void XmlScanner::CountName(std::u16string_view name) {
+  if (!names_) names_ = std::make_unique<Names>();
+  names_->Add(name);
+}
+
 std::u16string_view XmlScanner::Markup(size_t depth) {
   constexpr size_t kMostAttributes = 50;
   const char16_t* const begin = next_;
   std::vector<std::u16string_view> open, attributes;
-  MarkupNames names;
   do {
     if (isAtEndTag()) {
       TakeEndTag(open.back());
       open.pop_back();
     } else {
       const std::u16string_view name = PeekName();
-      names.Add(name);
+      CountName(name);
       TakeName(name);
       attributes.clear();
       while (FindAttribute()) {
@@ -352,7 +357,7 @@ std::u16string_view XmlScanner::Markup(size_t depth) {
         if (isKnown || attribute == u"xmlns" || attributes.size() == kMostAttributes) {
           throw XmlGivenUp();
         }
-        names.Add(attribute);
+        CountName(attribute);
         attributes.push_back(attribute);
         AttributeValue();
       }

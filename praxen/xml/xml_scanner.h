@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstring>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -23,6 +24,9 @@ class XmlScanner {
  public:
   /// The text has to stay alive.
   explicit XmlScanner(const Text& text);
+  XmlScanner(const XmlScanner&) = delete;
+  XmlScanner& operator=(const XmlScanner&) = delete;
+  ~XmlScanner();
 
   /// Passes over a byte-order mark, the declaration, blanks and comments, to the root's start tag.
   void ReadProlog();
@@ -73,8 +77,12 @@ class XmlScanner {
   std::u16string_view Markup(size_t depth);
 
  private:
+  class Names;
+
   static bool IsBlank(char16_t c) { return c == u' ' || c == u'\n' || c == u'\r' || c == u'\t'; }
 
+  /// Counts a name that is taken whatever it is: a document may use only so many.
+  void CountName(std::u16string_view name);
   bool TakeComment();
   bool Takes(std::u16string_view characters);
   void Expect(std::u16string_view characters) {
@@ -96,6 +104,7 @@ class XmlScanner {
   const char16_t* const end_;
   // Values that do not stand in the text as they are.
   std::u16string decoded_;
+  std::unique_ptr<Names> names_;
 };
 
 }  // namespace praxen::detail

@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <string>
 
+#include "praxen/xml/xml_limits.h"
 #include "tests/support/both_ways.h"
 #include "tests/support/random_documents.h"
 #include "tests/support/sound_documents.h"
@@ -105,6 +107,27 @@ TEST_P(BothWaysOfReading, TakeNoBlanksForADiagram) {
        {u"&#10;", u" &#x20; ", u"&#10;a", u"<![CDATA[ ]]>", u"&#xA0;"}) {
     Compare(u"<FDCodeBlock xmlns='PraxenSchema3_0' Name='f'>" + content + u"</FDCodeBlock>");
   }
+}
+
+std::string Repeated(size_t count, std::string (*piece)(const std::string& number)) {
+  std::string xml;
+  for (size_t i = 0; i < count; ++i) xml += piece(std::to_string(i));
+  return xml;
+}
+
+TEST_P(BothWaysOfReading, RefuseTheSameBeyondTheLimitsOfADocument) {
+  const std::string program = "<Program xmlns='PraxenSchema3_0' Name='a'><CodeBlocks>";
+  const std::string diagrams = Repeated(kMaxXmlForeignNames / 2 + 1, [](const std::string& number) {
+    return "<FDCodeBlock Name='b'><e" + number + " f" + number + "=''/></FDCodeBlock>";
+  });
+  Compare(program + diagrams + "</CodeBlocks></Program>");
+  const auto constant = [](const std::string& name) {
+    return "<c" + name + " Name='n" + name + "'><Type>t</Type><Value>v</Value></c" + name + ">";
+  };
+  const std::string constants = "<ProjectConstants xmlns='PraxenSchema3_0'>";
+  Compare(constants + Repeated(kMaxXmlForeignNames + 1, constant) + "</ProjectConstants>");
+  Compare(constants + constant(std::string(kMaxXmlNameLength, 'd')) + "</ProjectConstants>");
+  EXPECT_EQ(direct_, 0U);
 }
 
 }  // namespace
