@@ -84,7 +84,7 @@ std::u16string Repeat(std::u16string_view text, size_t count) {
 
 TEST_P(BothWaysOfReading, EndAtTheSameLimits) {
   const std::u16string start = u"<ProjectConstants xmlns='PraxenSchema3_0'>";
-  for (const size_t groups : {498, 499}) {
+  for (const size_t groups : {size_t{498}, size_t{499}}) {
     Compare(start + Repeat(u"<ProjectConstant Name='a'><ProjectConstants>", groups) +
             u"<ProjectConstant Name='b'><Type>t</Type><Value>v</Value></ProjectConstant>" +
             Repeat(u"</ProjectConstants></ProjectConstant>", groups) + u"</ProjectConstants>");
