@@ -26,10 +26,11 @@ namespace {
 // Numbers of this many digits before the point, or leading zeros after it, get an exponent.
 constexpr int kMostPlainDigits = 15;
 
-constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
+                                   1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18};
 
-// A number of at most 15 digits with no more around it than is written around numbers.
+// A number whose digits a double holds exactly, with no more around it than is written around
+// numbers.
 struct PlainNumber {
   bool negative = false;
   uint64_t digits = 0;
@@ -39,7 +40,8 @@ struct PlainNumber {
 
 // None for the many other forms that numbers may have, and for a zero with a sign.
 std::optional<PlainNumber> ReadPlain(std::u16string_view text) {
-  constexpr size_t kMostDigits = 15;
+  constexpr size_t kMostDigits = 18;
+  constexpr uint64_t kMostExact = uint64_t{1} << 53;
   PlainNumber number;
   size_t at = 0;
   if (text.starts_with(u' ') || text.starts_with(u'-')) number.negative = text[at++] == u'-';
@@ -59,7 +61,9 @@ std::optional<PlainNumber> ReadPlain(std::u16string_view text) {
   if (behind != 0) number.decimals = behind - 1;
   const size_t count = text.size() - first - (behind != 0 ? 1 : 0);
   const bool isSigned = number.negative && number.digits == 0;
-  if (count == 0 || count > kMostDigits || isSigned) return std::nullopt;
+  if (count == 0 || count > kMostDigits || isSigned || number.digits > kMostExact) {
+    return std::nullopt;
+  }
   return number;
 }
 

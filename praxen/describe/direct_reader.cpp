@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <bit>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 
 #include "praxen/core/numbers.h"
@@ -23,7 +22,7 @@ namespace {
 constexpr size_t kUsualDepth = 16;
 
 bool IsSame(std::u16string_view a, std::u16string_view b) {
-  return a.size() == b.size() && std::memcmp(a.data(), b.data(), 2 * a.size()) == 0;
+  return a.size() == b.size() && detail::AreSame(a.data(), b.data(), a.size());
 }
 
 size_t PlaceOf(const std::vector<Attribute>& all, std::u16string_view name) {

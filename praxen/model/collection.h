@@ -153,6 +153,9 @@ class Collection : public describe::Described<Class, Base> {
 
   const std::vector<Ref<Object>>* elements() const noexcept final { return &elements_; }
   void Append(const Ref<Object>& element) final {
+    // The smallest block of memory has room for so many.
+    constexpr size_t kFirstRoom = 3;
+    if (elements_.capacity() == 0) elements_.reserve(kFirstRoom);
     elements_.push_back(element);
     ElementAdded(element.get());
   }

@@ -2,7 +2,9 @@
 #ifndef PRAXEN_XML_XML_SCAN_H_
 #define PRAXEN_XML_XML_SCAN_H_
 
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #ifdef __SSE2__
 #include <emmintrin.h>
@@ -11,6 +13,26 @@
 #endif
 
 namespace praxen::detail {
+
+/// Whether so many characters are the same, which are few. A call would take longer.
+inline bool AreSame(const char16_t* a, const char16_t* b, size_t count) {
+  constexpr size_t kBlock = sizeof(uint64_t) / sizeof(char16_t);
+  const auto differ = [&](size_t at) {
+    uint64_t blockA, blockB;
+    std::memcpy(&blockA, a + at, sizeof blockA);
+    std::memcpy(&blockB, b + at, sizeof blockB);
+    return blockA != blockB;
+  };
+  if (count < kBlock) {
+    size_t at = 0;
+    while (at < count && a[at] == b[at]) ++at;
+    return at == count;
+  }
+  for (size_t at = 0; at < count - kBlock; at += kBlock) {
+    if (differ(at)) return false;
+  }
+  return !differ(count - kBlock);
+}
 
 /// Whether tabs and line feeds stand for themselves, as they do in content.
 enum class XmlBreaks : bool { Special, Ordinary };

@@ -4,13 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstring>
 #include <utility>
 #include <vector>
 
 #include "praxen/core/ascii.h"
 #include "praxen/xml/xml_limits.h"
-#include "praxen/xml/xml_scan.h"
 
 namespace praxen::detail {
 namespace {
@@ -92,10 +90,8 @@ XmlScanner::~XmlScanner() = default;
 
 bool XmlScanner::Takes(std::u16string_view characters) {
   const size_t size = characters.size();
-  if (static_cast<size_t>(end_ - next_) < size ||
-      std::memcmp(next_, characters.data(), size * sizeof(char16_t)) != 0) {
-    return false;
-  }
+  const bool isLonger = static_cast<size_t>(end_ - next_) < size;
+  if (isLonger || !AreSame(next_, characters.data(), size)) return false;
   next_ += size;
   return true;
 }

@@ -3,12 +3,12 @@
 #define PRAXEN_XML_XML_SCANNER_H_
 
 #include <cstddef>
-#include <cstring>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "praxen/core/text.h"
+#include "praxen/xml/xml_scan.h"
 
 namespace praxen::detail {
 
@@ -54,7 +54,7 @@ class XmlScanner {
   bool TakesAttribute(std::u16string_view name) {
     const size_t size = name.size();
     if (*next_ != name.front() || static_cast<size_t>(end_ - next_) <= size ||
-        next_[size] != u'=' || std::memcmp(next_, name.data(), 2 * size) != 0) {
+        next_[size] != u'=' || !AreSame(next_, name.data(), size)) {
       return false;
     }
     next_ += size + 1;
