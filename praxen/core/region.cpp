@@ -10,7 +10,8 @@ namespace praxen::detail {
 namespace {
 
 constexpr size_t kSmallestPiece = 2 * Region::kLargest;
-constexpr size_t kLargestPiece = size_t{1} << 16;
+// Small, since whatever a client keeps of a document, be it one name, keeps a piece.
+constexpr size_t kLargestPiece = size_t{1} << 12;
 // The share of a piece that is open, so that taking from it need not be counted for other threads.
 constexpr uint32_t kOpen = 1U << 31;
 

@@ -8,7 +8,7 @@
 
 namespace praxen::detail {
 
-/// Memory that is taken in order out of a few large pieces. What was taken is given back one by one,
+/// Memory that is taken in order out of larger pieces. What was taken is given back one by one,
 /// by whatever thread and when the region itself is long gone; a piece is given back as a whole when
 /// nothing is left in it. One thread at a time takes from a region.
 class Region {

@@ -190,7 +190,7 @@ TEST(ProjectConstants, AreWrittenAlikeInOrderAndNot) {
 // Constants of short names in a group of a long one: as many as can be written can be read.
 TEST(ProjectConstants, LimitTheirNamesTogether) {
   const std::string group(100'000, 'g');
-  for (const size_t test : {0, 1, 2, 3}) {
+  for (size_t test = 0; test < 4; ++test) {
     const size_t count = 20 + test % 2;
     const bool isInOrder = test >= 2;
     const auto list = New<ProjectConstants>();
