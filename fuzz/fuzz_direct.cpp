@@ -15,6 +15,7 @@ void Read(std::string_view xml) {
   if (random.OneIn(4)) text = praxen::detail::Spoiled(std::move(text), random);
   std::optional<praxen::detail::DecimalComma> comma;
   if (random.OneIn(4)) comma.emplace();
+  const praxen::detail::InProportion measured(text.size());
   const praxen::detail::BothWays ways = praxen::detail::ReadBothWays(text);
   if (!ways.difference.empty()) praxen::detail::Broken(ways.difference, text);
 }

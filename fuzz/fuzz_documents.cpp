@@ -17,6 +17,7 @@ using praxen::detail::ClassDescription;
 void ReadAs(const ClassDescription& description, const Text& document) {
   Ref<Object> read;
   praxen::Losses losses;
+  const praxen::detail::InProportion measured(document.size());
   const auto reading = [&] {
     read = praxen::detail::DeserializeObject(description, document, &losses);
   };

@@ -40,6 +40,7 @@ void Read(praxen::detail::FuzzInput input) {
   const Variant text = ToVariant(input);
   const VARIANT* const argument = &text;
   Variant result;
+  const praxen::detail::InProportion measured(input.size());
   const bool isRead = praxen::detail::Succeeds(praxen::detail::ReadingErrors(), [&] {
     operation.invokeGet(praxen::detail::SharedFactory(), &argument, result);
   });

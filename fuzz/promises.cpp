@@ -1,9 +1,12 @@
 // Errors, round trips and counters as docs/guarantees.md promises them.
 #include "fuzz/promises.h"
 
+#include <sanitizer/allocator_interface.h>
+
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
+#include <string>
 
 #include "praxen/core/counters.h"
 #include "praxen/core/losses.h"
@@ -69,6 +72,14 @@ void HoldDocument(const ClassDescription& description, Text document, Values val
   }
 }
 
+size_t requested = 0;
+
+void CountRequest(const volatile void*, size_t size) { requested += size; }
+
+// Whatever runs before the first input is not counted.
+[[maybe_unused]] const int hooked =
+    __sanitizer_install_malloc_and_free_hooks(&CountRequest, [](const volatile void*) {});
+
 // The setting is put back to what it is at start-up.
 class LineBreaks {
  public:
@@ -118,6 +129,15 @@ void HoldRoundTrip(Object& object, Values values) {
     if (!include) stable = stable && IsStable(document);
     HoldDocument(object.description(), document, values, stable);
   }
+}
+
+// A parser is made anew now and then, and with it the schema compiled.
+InProportion::InProportion(size_t characters)
+    : allowed_(100'000'000 + 2'000 * characters), before_(requested) {}
+
+InProportion::~InProportion() {
+  const size_t taken = requested - before_;
+  if (taken > allowed_) Broken("memory in proportion to the text: " + std::to_string(taken));
 }
 
 NothingStays::NothingStays() : before_(ObjectCounter()) {}

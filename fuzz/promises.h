@@ -2,6 +2,7 @@
 #ifndef PRAXEN_FUZZ_PROMISES_H_
 #define PRAXEN_FUZZ_PROMISES_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -43,6 +44,20 @@ enum class Values : bool {
 /// Writes the object, reads it back and writes it again until nothing changes any more, with and
 /// without line breaks. Carried values must be read, and change only as guaranteed.
 void HoldRoundTrip(Object& object, Values values);
+
+/// Holds that so much is asked of memory until it is destroyed as a text of so many characters may
+/// take. Shapes that grow faster than the text exceed it as the inputs get longer.
+class InProportion {
+ public:
+  explicit InProportion(size_t characters);
+  InProportion(const InProportion&) = delete;
+  InProportion& operator=(const InProportion&) = delete;
+  ~InProportion();
+
+ private:
+  const size_t allowed_;
+  const size_t before_;
+};
 
 /// Holds that what was made since it was created is gone when it is destroyed.
 class NothingStays {
