@@ -11,7 +11,9 @@
 #include <optional>
 #include <string>
 #include <system_error>
-#include <utility>
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #include "praxen/core/ascii.h"
 #include "praxen/core/decimal.h"
@@ -97,33 +99,42 @@ Number Parse(std::u16string_view text, std::optional<Number> (*convert)(const De
 
 __extension__ using uint128 = unsigned __int128;
 
-size_t CountDigits(uint64_t number) {
-  size_t count = 1;
-  for (; number >= 10'000; number /= 10'000) count += 4;
-  return count + (number >= 10 ? 1 : 0) + (number >= 100 ? 1 : 0) + (number >= 1000 ? 1 : 0);
+// The four digits of a number below 10,000 as they stand in memory as characters, but for the code
+// of the digit zero in each.
+uint64_t FourDigits(uint32_t number) {
+  const uint32_t hundreds = number * 5243 >> 19;
+  const uint64_t pairs = hundreds | uint64_t{number - 100 * hundreds} << 32;
+  const uint64_t tens = (pairs * 103 >> 10) & 0x0000'000F'0000'000F;
+  return tens | (pairs - 10 * tens) << 16;
 }
 
-// The two digits of each number below 100, as they stand in memory.
-constexpr auto kPairs = [] {
-  std::array<std::array<char16_t, 2>, 100> pairs{};
-  for (size_t i = 0; i < pairs.size(); ++i) {
-    pairs[i] = {static_cast<char16_t>(u'0' + i / 10), static_cast<char16_t>(u'0' + i % 10)};
-  }
-  return pairs;
+constexpr int kBitsOfCharacter = 16;
+
+void SaveDigits(uint64_t digits, char16_t* to) {
+  constexpr uint64_t kZeros = 0x0030'0030'0030'0030;
+  digits += kZeros;
+  std::memcpy(to, &digits, sizeof digits);
+}
+
+constexpr std::array<uint64_t, 17> kIntegerPowersOfTen = [] {
+  std::array<uint64_t, 17> powers{1};
+  for (size_t i = 1; i < powers.size(); ++i) powers[i] = 10 * powers[i - 1];
+  return powers;
 }();
 
-// Writes so many digits of a number.
-void WriteDigits(uint64_t number, size_t count, char16_t* to) {
-  for (; count >= 2; count -= 2, number /= 100) {
-    std::memcpy(to + count - 2, kPairs[number % 100].data(), sizeof kPairs[0]);
-  }
-  if (count == 1) *to = static_cast<char16_t>(u'0' + number % 10);
-}
-
-// 5 to the power of each index, as far as 64 bits hold it.
+// 5 to the power of each index, as far as 64 bits hold it, shifted until the highest bit is set.
+struct ShiftedPower {
+  uint64_t power;
+  int shift;
+};
 constexpr auto kPowersOfFive = [] {
-  std::array<uint64_t, 28> powers{1};
-  for (size_t i = 1; i < powers.size(); ++i) powers[i] = 5 * powers[i - 1];
+  std::array<ShiftedPower, 28> powers{};
+  uint64_t power = 1;
+  for (ShiftedPower& shifted : powers) {
+    const int shift = std::countl_zero(power);
+    shifted = {power << shift, shift};
+    power *= 5;
+  }
   return powers;
 }();
 
@@ -133,26 +144,16 @@ struct Decimals {
   int places;
 };
 
-Decimals WithoutZeros(Decimals number) {
-  constexpr std::pair<uint64_t, int> kSteps[] = {
-      {100'000'000, 8}, {100'000'000, 8}, {10'000, 4}, {100, 2}, {10, 1}};
-  for (const auto& [power, places] : kSteps) {
-    if (number.digits % power != 0) continue;
-    number.digits /= power;
-    number.places -= places;
-  }
-  return number;
-}
-
 // Between these bounds everything below fits.
 constexpr double kLeastExact = 0x1p-37;
 constexpr double kMostExact = 1e15;
 
 // The shortest decimal number that reads back to a double between the bounds, which is no integer,
-// and the nearest to it of these. The double is significand * 2^exponent; what is between half the
-// way to its neighbours, the ends included when the significand is even, reads back to it. Scaled
-// by the power of ten that leaves at least one and at most ten whole numbers between them, and by 4
-// for the ends, these are the candidates; what the scaling cuts off is kept in the lowest bit.
+// and the nearest to it of these; zeros may follow. The double is significand * 2^exponent; what is
+// between half the way to its neighbours, the ends included when the significand is even, reads
+// back to it. Scaled by the power of ten that leaves at least one and at most ten whole numbers
+// between them, and by 4 for the ends, these are the candidates; what the scaling cuts off is kept
+// in the lowest bit. Which one it is depends on the number as on chance, so that nothing branches.
 Decimals Shortest(double number) {
   constexpr int kBits = 52;
   constexpr uint64_t kImplied = uint64_t{1} << kBits;
@@ -164,82 +165,134 @@ Decimals Shortest(double number) {
   const bool isPower = significand == kImplied;
   // The logarithms of 2 and of 4/3 to the base of 10, times 2^22.
   const int places = -((exponent * 1'262'611 - (isPower ? 524'031 : 0)) >> 22);
-  const auto scale = [&](uint64_t quarters) {
-    const uint128 product = uint128{quarters} * kPowersOfFive[static_cast<size_t>(places)];
-    const int shift = -(exponent + places);
-    const auto whole = static_cast<uint64_t>(product >> shift);
-    return (uint128{whole} << shift) == product ? whole : whole | 1;
+  // In 128 bits, of which the upper half are whole quarters.
+  const ShiftedPower& five = kPowersOfFive[static_cast<size_t>(places)];
+  const int shift = 64 + exponent + places - five.shift;
+  const uint128 product = uint128{4 * significand << shift} * five.power;
+  const uint128 half = uint128{five.power >> (63 - shift)} << 64 | five.power << (shift + 1);
+  const auto cut = [](uint128 value) {
+    return static_cast<uint64_t>(value >> 64) | (static_cast<uint64_t>(value) != 0 ? 1 : 0);
   };
   const uint64_t odd = significand & 1;
-  const uint64_t scaled = scale(4 * significand);
-  const uint64_t lower = scale(4 * significand - (isPower ? 1 : 2)) + odd;
-  const uint64_t upper = scale(4 * significand + 2) - odd;
+  const uint64_t scaled = cut(product);
+  const uint64_t lower = cut(product - (isPower ? half / 2 : half)) + odd;
+  const uint64_t upper = cut(product + half) - odd;
   const uint64_t whole = scaled / 4;
   const uint64_t tens = whole / 10;
   const bool isTens = lower <= 40 * tens;
-  if (isTens != (40 * tens + 40 <= upper)) {
-    return WithoutZeros({tens + (isTens ? 0 : 1), places - 1});
-  }
+  const bool isNextTens = 40 * tens + 40 <= upper;
   const bool isWhole = lower <= 4 * whole;
-  if (isWhole != (4 * whole + 4 <= upper)) return {whole + (isWhole ? 0 : 1), places};
+  const bool isNextWhole = 4 * whole + 4 <= upper;
   const uint64_t middle = 4 * whole + 2;
-  const bool isAbove = scaled > middle || (scaled == middle && whole % 2 != 0);
-  return {whole + (isAbove ? 1 : 0), places};
+  const bool isAbove = (scaled > middle) | ((scaled == middle) & (whole % 2 != 0));
+  const bool isNext = isWhole != isNextWhole ? isNextWhole : isAbove;
+  const uint64_t short_digits = 10 * (tens + (isNextTens ? 1 : 0));
+  return {isTens != isNextTens ? short_digits : whole + (isNext ? 1 : 0), places};
+}
+
+char16_t* WriteFew(uint32_t number, char16_t* to) {
+  constexpr int kLast = 3 * kBitsOfCharacter;
+  const uint64_t digits = FourDigits(number);
+  const int zeros = std::countr_zero(digits | uint64_t{1} << kLast) / kBitsOfCharacter;
+  SaveDigits(digits >> (zeros * kBitsOfCharacter), to);
+  return to + 4 - zeros;
 }
 
 char16_t* WriteInteger(uint64_t number, char16_t* to) {
-  const size_t count = CountDigits(number);
-  WriteDigits(number, count, to);
-  return to + count;
+  if (number < 10'000) return WriteFew(static_cast<uint32_t>(number), to);
+  to = WriteInteger(number / 10'000, to);
+  SaveDigits(FourDigits(static_cast<uint32_t>(number % 10'000)), to);
+  return to + 4;
 }
+
+constexpr uint32_t kEightDigits = 100'000'000;
+
+#if defined(__SSE2__)
+// Writes 16 digits, and returns the end without the zeros at the end.
+char16_t* WriteSixteen(uint64_t number, char16_t* to) {
+  const auto each = [](int value) { return _mm_set1_epi16(static_cast<int16_t>(value)); };
+  const __m128i eights = _mm_set_epi64x(static_cast<int64_t>(number % kEightDigits),
+                                        static_cast<int64_t>(number / kEightDigits));
+  // The quotient by 10,000, and the remainder in the upper half.
+  const __m128i quotients = _mm_srli_epi64(_mm_mul_epu32(eights, _mm_set1_epi64x(0xD1B7'1759)), 45);
+  const __m128i remainders =
+      _mm_sub_epi64(eights, _mm_mul_epu32(quotients, _mm_set1_epi64x(10'000)));
+  const __m128i fours = _mm_or_si128(quotients, _mm_slli_epi64(remainders, 32));
+  const __m128i hundreds = _mm_srli_epi16(_mm_mulhi_epu16(fours, each(5243)), 3);
+  const __m128i units = _mm_sub_epi16(fours, _mm_mullo_epi16(hundreds, each(100)));
+  const __m128i pairs = _mm_or_si128(hundreds, _mm_slli_epi32(units, 16));
+  const __m128i tens = _mm_mulhi_epu16(pairs, each(6554));
+  const __m128i ones = _mm_sub_epi16(pairs, _mm_mullo_epi16(tens, each(10)));
+  const __m128i digits = _mm_or_si128(tens, _mm_slli_epi16(ones, 8));
+  const __m128i zero = _mm_setzero_si128();
+  auto* const out = reinterpret_cast<__m128i*>(to);
+  _mm_storeu_si128(out, _mm_add_epi16(_mm_unpacklo_epi8(digits, zero), each(u'0')));
+  _mm_storeu_si128(out + 1, _mm_add_epi16(_mm_unpackhi_epi8(digits, zero), each(u'0')));
+  const auto zeros = static_cast<uint16_t>(_mm_movemask_epi8(_mm_cmpeq_epi8(digits, zero)));
+  return to + 16 - std::countl_one(zeros);
+}
+#else
+char16_t* WriteEight(uint32_t number, char16_t* to) {
+  const uint64_t upper = FourDigits(number / 10'000);
+  const uint64_t lower = FourDigits(number % 10'000);
+  SaveDigits(upper, to);
+  SaveDigits(lower, to + 4);
+  if (lower != 0) return to + 8 - std::countl_zero(lower) / kBitsOfCharacter;
+  return to + 4 - std::countl_zero(upper) / kBitsOfCharacter;
+}
+
+// Writes 16 digits, and returns the end without the zeros at the end.
+char16_t* WriteSixteen(uint64_t number, char16_t* to) {
+  const auto lower = static_cast<uint32_t>(number % kEightDigits);
+  char16_t* const middle = WriteEight(static_cast<uint32_t>(number / kEightDigits), to);
+  char16_t* const end = WriteEight(lower, to + 8);
+  return lower == 0 ? middle : end;
+}
+#endif
 
 // The form of `Decimal::AppendPlain`, of a number between the bounds.
 char16_t* WriteExact(double number, char16_t* to) {
-  constexpr uint64_t kPowersOfTen[] = {1,
-                                       10,
-                                       100,
-                                       1'000,
-                                       10'000,
-                                       100'000,
-                                       1'000'000,
-                                       10'000'000,
-                                       100'000'000,
-                                       1'000'000'000,
-                                       10'000'000'000,
-                                       100'000'000'000,
-                                       1'000'000'000'000,
-                                       10'000'000'000'000,
-                                       100'000'000'000'000,
-                                       1'000'000'000'000'000,
-                                       10'000'000'000'000'000};
-  const auto integer = static_cast<uint64_t>(number);
-  if (static_cast<double>(integer) == number) return WriteInteger(integer, to);
-  Decimals decimals = Shortest(number);
-  if (integer != 0) {
-    to = WriteInteger(integer, to);
-    decimals.digits -= integer * kPowersOfTen[decimals.places];
+  const auto integer = static_cast<int64_t>(number);
+  if (static_cast<double>(integer) == number) {
+    return WriteInteger(static_cast<uint64_t>(integer), to);
   }
-  *to++ = u'.';
-  const auto places = static_cast<size_t>(decimals.places);
-  WriteDigits(decimals.digits, places, to);
-  return to + places;
+  // The last digits are 16. Of a number below one there may be zeros and one more before them.
+  constexpr int kLast = 16;
+  constexpr size_t kMostZeros = 12;
+  auto [digits, places] = Shortest(number);
+  uint64_t first = 0;
+  if (integer == 0) {
+    first = digits / kIntegerPowersOfTen[kLast];
+    digits -= first * kIntegerPowersOfTen[kLast];
+    for (size_t i = 0; i < kMostZeros; i += 4) SaveDigits(0, to + i);
+  } else {
+    const auto whole = static_cast<uint64_t>(integer);
+    to = WriteInteger(whole, to);
+    digits -= whole * kIntegerPowersOfTen[static_cast<size_t>(places)];
+    digits *= kIntegerPowersOfTen[static_cast<size_t>(kLast - places)];
+    places = kLast;
+  }
+  char16_t* const before = to + (places - kLast);
+  *before = static_cast<char16_t>(u'0' + first);
+  *to = u'.';
+  return WriteSixteen(digits, before + 1);
 }
 
 }  // namespace
 
 char16_t* WriteNumber(int32_t number, char16_t* to) noexcept {
   const auto bits = static_cast<uint32_t>(number);
+  const uint32_t magnitude = number < 0 ? 0 - bits : bits;
   if (number < 0) *to++ = u'-';
-  return WriteInteger(number < 0 ? 0 - bits : bits, to);
+  return magnitude < 10'000 ? WriteFew(magnitude, to) : WriteInteger(magnitude, to);
 }
 
 char16_t* WriteNumber(double number, char16_t* to) {
-  if (!std::isfinite(number)) throw InvalidArgument(u"The number is not finite"_text);
   *to++ = number < 0 ? u'-' : u' ';
   const double magnitude = std::fabs(number);
-  if (magnitude == 0 || (magnitude >= kLeastExact && magnitude < kMostExact)) {
-    return WriteExact(magnitude, to);
-  }
+  if (magnitude >= kLeastExact && magnitude < kMostExact) return WriteExact(magnitude, to);
+  if (magnitude == 0) return WriteInteger(0, to);
+  if (!std::isfinite(number)) throw InvalidArgument(u"The number is not finite"_text);
   const Decimal decimal(magnitude);
   const auto append = [&](std::string_view characters) {
     to = std::copy(characters.begin(), characters.end(), to);
