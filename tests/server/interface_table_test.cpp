@@ -49,9 +49,14 @@ ComPointer<I> Make(std::string_view name) {
 
 BStr B(const char16_t* text) { return BStr(text); }
 
-// The function in a slot of an object's interface table.
+// Calls the function in a slot of an object's interface table, which a client sees as one of
+// another type than the library.
 template <class... Arguments>
-HRESULT CallSlot(const Handle& object, size_t slot, Arguments... arguments) {
+#ifdef __clang__
+[[clang::no_sanitize("function")]]
+#endif
+HRESULT
+CallSlot(const Handle& object, size_t slot, Arguments... arguments) {
   using Function = HRESULT(STDMETHODCALLTYPE*)(IDispatch*, Arguments...);
   const auto slots = *reinterpret_cast<void* const* const*>(object.Get());
   return reinterpret_cast<Function>(slots[slot])(object.Get(), arguments...);
