@@ -1,6 +1,8 @@
 // Counting and destruction of objects.
 #include "praxen/describe/object.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <mutex>
 #include <new>
@@ -17,6 +19,9 @@ namespace praxen {
 using namespace detail;
 
 namespace {
+
+// Leaves an object aligned as memory of its own is.
+constexpr size_t kHead = std::max(alignof(std::max_align_t), sizeof(void*));
 
 // Destroying an object releases what it contains. What dies from that is queued, not destroyed at
 // once, so a chain of any length needs no more stack than one object. The queue is linked through
@@ -35,22 +40,32 @@ void Destroy(Object& object, ThreadState::Doomed& doomed) noexcept {
 
 }  // namespace
 
-// Before each object stands the piece of a region that it lies in, or null.
+// Before each object stands the piece of a region that it lies in, or null. A client's own class
+// may need more alignment than those of the library, which alone lie in regions.
 void* Object::operator new(size_t size) {
   static_assert(alignof(Object) <= alignof(void*));
   ThreadState* const state = ThreadState::Find();
   if (state != nullptr && state->region != nullptr && size <= Region::kLargest) {
     return state->region->Allocate(size);
   }
-  auto* const memory = static_cast<void**>(std::malloc(sizeof(void*) + size));
+  auto* const memory = static_cast<std::byte*>(std::malloc(kHead + size));
   if (memory == nullptr) throw std::bad_alloc();
-  *memory = nullptr;
-  return memory + 1;
+  auto* const object = reinterpret_cast<void**>(memory + kHead);
+  object[-1] = nullptr;
+  return object;
 }
 
 void Object::operator delete(void* object) noexcept {
-  void** const memory = static_cast<void**>(object) - 1;
-  *memory != nullptr ? Region::Free(object) : std::free(memory);
+  static_cast<void**>(object)[-1] != nullptr ? Region::Free(object)
+                                             : std::free(static_cast<std::byte*>(object) - kHead);
+}
+
+void* Object::operator new(size_t size, std::align_val_t alignment) {
+  return ::operator new(size, alignment);
+}
+
+void Object::operator delete(void* object, std::align_val_t alignment) noexcept {
+  ::operator delete(object, alignment);
 }
 
 Object::Object(const ClassDescription& description, Counting counting) : counting_(counting) {

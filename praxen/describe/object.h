@@ -5,6 +5,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -59,6 +60,8 @@ class Object : public detail::Interface {
   /// Objects that are made while a document is read lie beside each other.
   static void* operator new(size_t size);
   static void operator delete(void* object) noexcept;
+  static void* operator new(size_t size, std::align_val_t alignment);
+  static void operator delete(void* object, std::align_val_t alignment) noexcept;
 
   void AddRef() noexcept { ++references_; }
   void Release() noexcept {

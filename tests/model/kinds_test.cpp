@@ -2,6 +2,9 @@
 // creating operations do beyond the pattern.
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstdint>
+
 #include "praxen/factory/classes.h"
 #include "praxen/praxen.h"
 #include "tests/server/client.h"
@@ -105,6 +108,22 @@ Ref<MessageBucket> TwoMessages() {
   bucket->Add(New<ErrorMsg>());
   bucket->Add(New<FindMsg>());
   return bucket;
+}
+
+template <size_t Alignment>
+class AlignedElement final : public ISFCElement {
+ public:
+  alignas(Alignment) char values[Alignment] = {};
+};
+
+TEST(OwnKinds, AreAlignedAsTheirMembersNeed) {
+  const auto remainder = []<size_t Alignment>(const AlignedElement<Alignment>& element) {
+    return reinterpret_cast<uintptr_t>(&element.values) % Alignment;
+  };
+  for (int count = 0; count < 4; ++count) {
+    EXPECT_EQ(remainder(*New<AlignedElement<alignof(std::max_align_t)>>()), 0U);
+    EXPECT_EQ(remainder(*New<AlignedElement<256>>()), 0U);
+  }
 }
 
 TEST(OwnKinds, OfNoClassAreLeftOut) {
