@@ -60,14 +60,6 @@ void Object::operator delete(void* object) noexcept {
                                              : std::free(static_cast<std::byte*>(object) - kHead);
 }
 
-void* Object::operator new(size_t size, std::align_val_t alignment) {
-  return ::operator new(size, alignment);
-}
-
-void Object::operator delete(void* object, std::align_val_t alignment) noexcept {
-  ::operator delete(object, alignment);
-}
-
 Object::Object(const ClassDescription& description, Counting counting) : counting_(counting) {
   table = description.interfaceTable();
   counting == Counting::Yes ? CountObject() : CountModuleObject(1);

@@ -60,8 +60,12 @@ class Object : public detail::Interface {
   /// Objects that are made while a document is read lie beside each other.
   static void* operator new(size_t size);
   static void operator delete(void* object) noexcept;
-  static void* operator new(size_t size, std::align_val_t alignment);
-  static void operator delete(void* object, std::align_val_t alignment) noexcept;
+  static void* operator new(size_t size, std::align_val_t alignment) {
+    return ::operator new(size, alignment);
+  }
+  static void operator delete(void* object, std::align_val_t alignment) noexcept {
+    ::operator delete(object, alignment);
+  }
 
   void AddRef() noexcept { ++references_; }
   void Release() noexcept {
