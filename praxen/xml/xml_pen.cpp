@@ -34,6 +34,36 @@ constexpr auto kReferences = [] {
   return references;
 }();
 
+// Characters that are escaped in one go: two blocks.
+constexpr size_t kStep = 2 * kXmlBlock;
+
+// A bit for each character that was found in two blocks.
+uint32_t FoundBits(XmlBlock first, XmlBlock second) {
+#if defined(__SSE2__)
+  const __m128i bytes =
+      _mm_packs_epi16(reinterpret_cast<__m128i>(first), reinterpret_cast<__m128i>(second));
+  return static_cast<uint32_t>(_mm_movemask_epi8(bytes));
+#else
+  uint32_t bits = 0;
+  for (size_t i = 0; i < kXmlBlock; ++i) {
+    bits |= static_cast<uint32_t>(first[i] & 1) << i;
+    bits |= static_cast<uint32_t>(second[i] & 1) << (kXmlBlock + i);
+  }
+  return bits;
+#endif
+}
+
+void CopyStep(const char16_t* from, char16_t* to) {
+  CopyBlock(from, to);
+  CopyBlock(from + kXmlBlock, to + kXmlBlock);
+}
+
+char16_t* CopyReference(char16_t character, char16_t* to) {
+  const Reference& reference = kReferences[character];
+  CopyBlock(reference.block, to);
+  return to + reference.size;
+}
+
 }  // namespace
 
 XmlPiece::XmlPiece(std::u16string_view markup) {
@@ -72,20 +102,39 @@ template <XmlPlace Place>
 XmlPen::Room XmlPen::Escape(CStringBuilder& buffer, char16_t* end, std::u16string_view value,
                             size_t following) {
   Room room{end, buffer.room().end};
-  while (!value.empty()) {
-    const size_t wanted = value.size() + kXmlBlock + following;
-    if (wanted > static_cast<size_t>(room.end - room.start)) {
-      room = Grow(buffer, room.start, wanted);
+  const auto reserve = [&](size_t count) {
+    count += value.size() + following;
+    if (count > static_cast<size_t>(room.end - room.start)) [[unlikely]]
+      room = Grow(buffer, room.start, count);
+  };
+  // What follows a character to be escaped is copied as if there were no other in the step, so that
+  // the value has to go on as far behind it.
+  while (value.size() >= 2 * kStep) {
+    reserve(kStep * kXmlBlock);
+    const char16_t* const from = value.data();
+    const auto first = LoadCharacters<XmlBlock>(from);
+    const auto second = LoadCharacters<XmlBlock>(from + kXmlBlock);
+    uint32_t bits = FoundBits(Escaped<Place>(first), Escaped<Place>(second));
+    CopyStep(from, room.start);
+    size_t done = 0;
+    for (; bits != 0; bits &= bits - 1) {
+      const auto at = static_cast<size_t>(std::countr_zero(bits));
+      room.start = CopyReference(from[at], room.start + (at - done));
+      done = at + 1;
+      CopyStep(from + done, room.start);
     }
-    const Reference& reference = kReferences[value.front()];
-    CopyBlock(reference.block, room.start);
-    room.start += reference.size;
-    value.remove_prefix(1);
+    room.start += kStep - done;
+    value.remove_prefix(kStep);
+  }
+  while (true) {
+    reserve(kXmlBlock);
     const size_t plain = CopyPlain<Place>(value, room.start);
     room.start += plain;
     value.remove_prefix(plain);
+    if (value.empty()) return room;
+    room.start = CopyReference(value.front(), room.start);
+    value.remove_prefix(1);
   }
-  return room;
 }
 
 template XmlPen::Room XmlPen::Escape<XmlPlace::Content>(CStringBuilder&, char16_t*,

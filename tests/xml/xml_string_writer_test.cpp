@@ -82,17 +82,19 @@ TEST(XMLStringWriter, EscapesValues) {
   }
 }
 
-// Values are copied and looked through in blocks.
+// Values are copied and looked through in blocks, after a first character to be escaped in others.
 TEST(XMLStringWriter, EscapesAtAnyPlaceOfAnyLength) {
-  for (size_t size = 1; size <= 40; ++size) {
+  for (size_t size = 1; size <= 50; ++size) {
     for (size_t place = 0; place < size; ++place) {
       const std::u16string before(place, u'='), after(size - place - 1, u'%');
       for (const char16_t special : kEscapedInValues) {
-        const std::u16string escaped = before + std::u16string(XmlReference(special)) + after;
+        const std::u16string reference(XmlReference(special));
+        const std::u16string value = before + special + after, escaped = before + reference + after;
         ASSERT_EQ(Written([&](XMLStringWriter& w) {
-                    w.WriteAttributeString(u"n", before + special + after);
+                    w.WriteAttributeString(u"n", value);
+                    w.WriteAttributeString(u"m", special + value);
                   }),
-                  u" n='" + escaped + u"'");
+                  u" n='" + escaped + u"' m='" + reference + escaped + u"'");
       }
     }
   }
