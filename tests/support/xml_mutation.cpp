@@ -55,6 +55,11 @@ constexpr std::string_view kAttributes[] = {
     " xsi:nil='true'",
     " xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xsi:schemaLocation='a b'"};
 
+// Names of elements that the schema declares, with attributes and without, and of one that it does
+// not.
+constexpr std::string_view kElements[] = {"Variable", "Variables", "ConVariable", "ST_Code",
+                                          "Unknown"};
+
 class Scanner {
  public:
   explicit Scanner(std::string_view xml) : xml_(xml) {}
@@ -253,7 +258,9 @@ std::string ChangeCase(const Change& change) {
 }
 
 std::string Rename(const Change& change) {
-  return change.Renamed(change.AnyElement(), change.AnyElement().name.In(change.xml));
+  const bool own = change.random.OneIn(2);
+  return change.Renamed(change.AnyElement(), own ? change.AnyElement().name.In(change.xml)
+                                                 : change.random.OneOf(kElements));
 }
 
 // Puts an element into a namespace by a prefix that it declares itself.
