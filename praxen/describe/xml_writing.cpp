@@ -217,7 +217,7 @@ const Layout& RequireLayout(const Object& object) {
 
 // Fetches the object of an element that is soon to be written into the cache.
 void Prefetch(const std::vector<Ref<Object>>& elements, size_t index) {
-  if (index >= elements.size()) return;
+  if (index >= elements.size() || !elements[index]) return;
   constexpr size_t kCacheLine = 64;
   const auto* const object = reinterpret_cast<const std::byte*>(elements[index].get());
   __builtin_prefetch(object);
