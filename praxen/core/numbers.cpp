@@ -28,7 +28,7 @@ namespace {
 // Numbers of this many digits before the point, or leading zeros after it, get an exponent.
 constexpr int kMostPlainDigits = 15;
 
-constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,
+constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8, 1e9,
                                    1e10, 1e11, 1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18};
 
 // A number whose digits a double holds exactly, with no more around it than is written around

@@ -9,8 +9,8 @@
 namespace praxen::detail {
 
 /// Memory that is taken in order out of larger pieces. What was taken is given back one by one,
-/// by whatever thread and when the region itself is long gone; a piece is given back as a whole when
-/// nothing is left in it. One thread at a time takes from a region.
+/// by whatever thread and when the region itself is long gone; a piece is given back as a whole
+/// when nothing is left in it. One thread at a time takes from a region.
 class Region {
  public:
   /// With so many bytes, or about so many, in the first piece.

@@ -86,8 +86,8 @@ Text Text::Join(std::u16string_view left, std::u16string_view right) {
 void Text::ReleaseCounted(uint32_t held) noexcept {
   constexpr uint32_t kCount = ~kInRegion;
   // The only holder need not pay for an atomic decrement.
-  const bool isLast = (held & kCount) == 1 ||
-                      (references().fetch_sub(1, std::memory_order_acq_rel) & kCount) == 1;
+  const bool isLast =
+      (held & kCount) == 1 || (references().fetch_sub(1, std::memory_order_acq_rel) & kCount) == 1;
   if (!isLast) return;
   (held & kInRegion) != 0 ? Region::Free(&block()) : std::free(&block());
 }
