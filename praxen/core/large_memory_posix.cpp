@@ -11,14 +11,13 @@ namespace praxen::detail {
 #ifdef MADV_HUGEPAGE
 
 void RequestLargePages(void* memory, size_t bytes) noexcept {
-  constexpr uintptr_t kPage = uintptr_t{2} << 20;
-  const auto begin = reinterpret_cast<uintptr_t>(memory);
-  const uintptr_t first = (begin + kPage - 1) / kPage * kPage;
-  const uintptr_t end = (begin + bytes) / kPage * kPage;
-  if (first >= end) return;
+  constexpr size_t kPage = size_t{2} << 20;
+  const size_t beforeFirst = (kPage - reinterpret_cast<uintptr_t>(memory) % kPage) % kPage;
+  if (bytes < beforeFirst + kPage) return;
   // Whether it is done only matters for the time.
   const int error = errno;
-  madvise(reinterpret_cast<void*>(first), end - first, MADV_HUGEPAGE);
+  madvise(static_cast<std::byte*>(memory) + beforeFirst, (bytes - beforeFirst) / kPage * kPage,
+          MADV_HUGEPAGE);
   errno = error;
 }
 

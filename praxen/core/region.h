@@ -24,7 +24,7 @@ class Region {
 
   /// Aligned for pointers and numbers; raises `std::bad_alloc`.
   void* Allocate(size_t bytes) {
-    const size_t taken = sizeof(Piece*) + (bytes + kAlignment - 1) / kAlignment * kAlignment;
+    const size_t taken = kHead + (bytes + kAlignment - 1) / kAlignment * kAlignment;
     if (taken > room_) Grow();
     auto* const start = reinterpret_cast<Piece**>(next_);
     *start = piece_;
@@ -37,6 +37,8 @@ class Region {
 
  private:
   static constexpr size_t kAlignment = alignof(void*);
+  // Before what is taken stands its piece.
+  static constexpr size_t kHead = sizeof(void*);
 
   struct Piece {
     /// What lives in it and, while more may be taken from it, far more.

@@ -22,11 +22,9 @@ bool UsesDirectReading() noexcept { return isUsed_.load(std::memory_order_relaxe
 
 Ref<Object> ReadDirectly(const Text& text, RootCreator create, const void* context) {
   if (!IsShippedSchemaUsed()) return nullptr;
-  // The caller's own text may change its place while it is read.
-  const Text kept = text;
-  const DocumentInReading inReading(kept.size());
+  const DocumentInReading inReading(text.size());
   try {
-    XmlScanner scanner(kept);
+    XmlScanner scanner(text);
     scanner.ReadProlog();
     const std::u16string_view root = scanner.PeekName();
     Ref<Object> object = create(root, context);

@@ -22,8 +22,9 @@ constexpr bool IsNameStart(char16_t c) {
 
 constexpr std::array<bool, 128> kNameCharacters = [] {
   std::array<bool, 128> are{};
-  for (char16_t c = 0; c < are.size(); ++c) {
-    are[c] = IsNameStart(c) || IsDigitAscii(c) || c == u'-' || c == u'.';
+  for (size_t i = 0; i < are.size(); ++i) {
+    const auto c = static_cast<char16_t>(i);
+    are[i] = IsNameStart(c) || IsDigitAscii(c) || c == u'-' || c == u'.';
   }
   return are;
 }();
@@ -63,7 +64,7 @@ uint32_t ReadDigits(const char16_t*& next, uint32_t base) {
 class XmlScanner::Names {
  public:
   void Add(std::u16string_view name) {
-    size_t place = name.size() * 31 + name.front() * 7 + name.back();
+    size_t place = 31 * name.size() + size_t{7} * name.front() + name.back();
     for (;; ++place) {
       std::u16string_view& known = names_[place % names_.size()];
       if (known == name) return;

@@ -72,7 +72,8 @@ class OrderedWriting {
  private:
   // Those that a rest of a name is in.
   void CloseGroups(std::u16string_view rest) {
-    for (size_t dot; (dot = rest.find(kDot)) != rest.npos; rest.remove_prefix(dot + 1)) {
+    for (size_t dot; (dot = rest.find(kDot)) != std::u16string_view::npos;
+         rest.remove_prefix(dot + 1)) {
       XmlPen pen = writer_.Pen();
       pen.Reserve(markup_.groupEnd.room() + markup_.end.room());
       pen.Put(markup_.groupEnd);
@@ -84,7 +85,8 @@ class OrderedWriting {
 
   // The same, and returns the name within the last of them.
   std::u16string_view OpenGroups(std::u16string_view rest) {
-    for (size_t dot; (dot = rest.find(kDot)) != rest.npos; rest.remove_prefix(dot + 1)) {
+    for (size_t dot; (dot = rest.find(kDot)) != std::u16string_view::npos;
+         rest.remove_prefix(dot + 1)) {
       XmlPen pen = writer_.Pen();
       PutName(rest.substr(0, dot), pen);
       pen.Reserve(markup_.groupStart.room());
