@@ -26,7 +26,7 @@ constexpr size_t kLongestText = 0x7FFFFFFF;
 constexpr char32_t kReplacement = 0xFFFD;
 constexpr uint32_t kInRegion = 1U << 31;
 constexpr size_t kLongestInRegion =
-    (Region::kLargest - sizeof(TextBlock)) / sizeof(char16_t) - sizeof(TextBlock);
+    (Region::kLargest - sizeof(TextBlock)) / sizeof(char16_t) - 1;  // The NUL.
 
 char16_t* MakeBlock(void* memory, uint32_t references, size_t length) {
   auto* const block = new (memory) TextBlock{references, static_cast<uint32_t>(length)};

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <utility>
 
-#include "praxen/core/numbers.h"
 #include "praxen/describe/description.h"
 #include "praxen/describe/reflection.h"
 #include "praxen/describe/xml_reading.h"
@@ -75,12 +74,7 @@ class DirectReader::Cursor final : public detail::XmlCursor {
 
   std::u16string_view ReadText() override {
     TakeName();
-    const std::u16string_view name = std::exchange(tag_, {});
-    if (scanner_.FindAttribute()) throw XmlGivenUp();
-    if (!scanner_.EndStartTag()) return {};
-    const std::u16string_view text = scanner_.Content();
-    scanner_.TakeEndTag(name);
-    return text;
+    return scanner_.TextOf(std::exchange(tag_, {}));
   }
 
   std::u16string_view ReadRequiredText(std::u16string_view expected) override {
@@ -294,25 +288,20 @@ void DirectReader::ReadItem(const Open& open, std::u16string_view name) {
 
 // An element that holds a text, perhaps inside another. Without content, the value stays.
 void DirectReader::ReadText(Text& value, const Child& child) {
+  const auto readText = [&](std::u16string_view name) {
+    scanner_.TakeName(name);
+    const std::u16string_view text = scanner_.TextOf(name);
+    if (!text.empty()) value = Text(text);
+  };
+  if (child.inner.empty()) return readText(child.name);
   scanner_.TakeName(child.name);
   if (scanner_.FindAttribute()) throw XmlGivenUp();
   if (!scanner_.EndStartTag()) return;
-  if (child.inner.empty()) {
-    const std::u16string_view text = scanner_.Content();
-    if (!text.empty()) value = Text(text);
-  } else {
+  scanner_.SkipBlanks();
+  if (!scanner_.isAtEndTag()) {
+    if (scanner_.PeekName() != child.inner) throw XmlGivenUp();
+    readText(child.inner);
     scanner_.SkipBlanks();
-    if (!scanner_.isAtEndTag()) {
-      if (scanner_.PeekName() != child.inner) throw XmlGivenUp();
-      scanner_.TakeName(child.inner);
-      if (scanner_.FindAttribute()) throw XmlGivenUp();
-      if (scanner_.EndStartTag()) {
-        const std::u16string_view text = scanner_.Content();
-        if (!text.empty()) value = Text(text);
-        scanner_.TakeEndTag(child.inner);
-      }
-      scanner_.SkipBlanks();
-    }
   }
   scanner_.TakeEndTag(child.name);
 }

@@ -2,6 +2,8 @@
 #include "praxen/describe/layout.h"
 
 #include <algorithm>
+#include <limits>
+#include <stdexcept>
 #include <utility>
 
 #include "praxen/describe/description.h"
@@ -63,6 +65,9 @@ void CompleteChild(Child& child, Object& created) {
 
 Layout CompleteLayout(Layout layout, std::u16string element, Object& created) {
   layout.element = std::move(element);
+  if (layout.attributes.size() > std::numeric_limits<uint64_t>::digits) {
+    throw std::logic_error("a class has more attributes than bits that tell of them");
+  }
   uint64_t bit = 1;
   for (Attribute& attribute : layout.attributes) {
     CompleteAttribute(attribute, created);

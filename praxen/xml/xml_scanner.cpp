@@ -147,7 +147,7 @@ std::u16string_view XmlScanner::PeekName() const {
   const char16_t* const begin = next_ + 1;
   if (*next_ != u'<') throw XmlGivenUp();
   const char16_t* const end = NameEnd(begin);
-  const bool ends = *end == u'>' || *end == u'/' || IsBlank(*end);
+  const bool ends = *end == u'>' || *end == u'/' || IsXmlBlank(*end);
   if (end == begin || !ends) throw XmlGivenUp();
   return {begin, static_cast<size_t>(end - begin)};
 }
@@ -171,7 +171,7 @@ std::u16string_view XmlScanner::TakeAttribute() {
 }
 
 std::u16string_view XmlScanner::AttributeValue() {
-  if (IsBlank(*next_)) SkipBlanks();
+  if (IsXmlBlank(*next_)) SkipBlanks();
   const char16_t quote = *next_;
   if (quote != u'\'' && quote != u'"') throw XmlGivenUp();
   const char16_t* const begin = ++next_;
@@ -328,6 +328,14 @@ void XmlScanner::TakeEndTag(std::u16string_view name) {
   Expect(name);
   SkipBlanks();
   if (*next_++ != u'>') throw XmlGivenUp();
+}
+
+std::u16string_view XmlScanner::TextOf(std::u16string_view name) {
+  if (FindAttribute()) throw XmlGivenUp();
+  if (!EndStartTag()) return {};
+  const std::u16string_view text = Content();
+  TakeEndTag(name);
+  return text;
 }
 
 void XmlScanner::CountName(std::u16string_view name) {

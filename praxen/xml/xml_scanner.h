@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "praxen/core/text.h"
+#include "praxen/xml/xml_markup.h"
 #include "praxen/xml/xml_scan.h"
 
 namespace praxen::detail {
@@ -38,7 +39,7 @@ class XmlScanner {
   void MoveTo(const char16_t* place) { next_ = place; }
 
   void SkipBlanks() {
-    while (IsBlank(*next_)) ++next_;
+    while (IsXmlBlank(*next_)) ++next_;
   }
   bool isAtEndTag() const { return next_[0] == u'<' && next_[1] == u'/'; }
   /// Passes over a comment; false where there is none.
@@ -71,6 +72,9 @@ class XmlScanner {
   std::u16string_view Content();
   /// Passes over an end tag.
   void TakeEndTag(std::u16string_view name);
+  /// The text of an element that holds nothing else, from behind its name or the attributes that
+  /// were read; passes over the element.
+  std::u16string_view TextOf(std::u16string_view name);
 
   /// The element at the place with its content, whatever its names; `depth` tells how many elements
   /// are open.
@@ -78,8 +82,6 @@ class XmlScanner {
 
  private:
   class Names;
-
-  static bool IsBlank(char16_t c) { return c == u' ' || c == u'\n' || c == u'\r' || c == u'\t'; }
 
   /// Counts a name that is taken whatever it is: a document may use only so many.
   void CountName(std::u16string_view name);
